@@ -1,0 +1,41 @@
+# One static library per folder of the house, and the programs made of them.
+
+function(ondrelle_common_options target)
+  target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
+  target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow
+                                           -Wconversion>)
+  if(ONDRELLE_WERROR)
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-Werror>)
+  endif()
+  if(ONDRELLE_SANITIZE)
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=address,undefined
+                                             -fno-sanitize-recover=undefined -fno-omit-frame-pointer>)
+    target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# ondrelle_floor(NAME [USES floor ...] [LIBRARIES library ...] [EXCLUDE file ...])
+# Every source below NAME/ goes in. Application code throws nothing.
+function(ondrelle_floor name)
+  cmake_parse_arguments(FLOOR "" "" "USES;LIBRARIES;EXCLUDE" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${name}/*.cpp ${name}/*.S)
+  list(REMOVE_ITEM sources ${FLOOR_EXCLUDE} platform/names.cpp platform/names_demo.cpp framework/core/main.cpp)
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    ondrelle_common_options(${name})
+    target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions>)
+    target_link_libraries(${name} PUBLIC ${FLOOR_USES} ${FLOOR_LIBRARIES})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${FLOOR_USES} ${FLOOR_LIBRARIES})
+  endif()
+endfunction()
+
+# ondrelle_program(NAME SOURCES file ... FLOORS floor ... NAMES names-library)
+function(ondrelle_program name)
+  cmake_parse_arguments(PROGRAM "" "NAMES" "SOURCES;FLOORS" ${ARGN})
+  add_executable(${name} ${PROGRAM_SOURCES} $<TARGET_OBJECTS:${PROGRAM_NAMES}>)
+  ondrelle_common_options(${name})
+  target_compile_options(${name} PRIVATE -fno-exceptions)
+  target_link_libraries(${name} PRIVATE ${PROGRAM_FLOORS})
+endfunction()
