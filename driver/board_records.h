@@ -59,17 +59,17 @@ static_assert(sizeof(aal_stats) == 100 && offsetof(aal_stats, invalidVcis) == 72
 
 // The line interface: what it is and its alarms, nonzero meaning raised unless said otherwise.
 struct suni_stats {
-  std::uint32_t medium;       // 0: 1 25 Mb/s, 2 OC3c multi-mode, 3 OC3c single-mode, 4 155 UTP
-  std::uint32_t answers;      // 1: zero when the line interface does not answer
-  std::uint32_t linkUp;       // 2: of a 25 Mb/s interface
-  std::uint32_t oof;          // 3: out of frame
-  std::uint32_t lof;          // 4: loss of frame
-  std::uint32_t los;          // 5: loss of signal
+  std::uint32_t medium;   // 0: 1 25 Mb/s, 2 OC3c multi-mode, 3 OC3c single-mode, 4 155 UTP
+  std::uint32_t answers;  // 1: zero when the line interface does not answer
+  std::uint32_t linkUp;   // 2: of a 25 Mb/s interface
+  std::uint32_t oof;      // 3: out of frame
+  std::uint32_t lof;      // 4: loss of frame
+  std::uint32_t los;      // 5: loss of signal
   std::uint32_t reserved6[2];
-  std::uint32_t ferf;         // 8: far end receive failure
-  std::uint32_t ais;          // 9: alarm indication signal
+  std::uint32_t ferf;  // 8: far end receive failure
+  std::uint32_t ais;   // 9: alarm indication signal
   std::uint32_t reserved10[2];
-  std::uint32_t lop;          // 12: loss of pointer
+  std::uint32_t lop;  // 12: loss of pointer
   std::uint32_t reserved13[46];
 };
 static_assert(sizeof(suni_stats) == 236 && offsetof(suni_stats, ferf) == 32 &&

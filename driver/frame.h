@@ -5,7 +5,8 @@
 #include <cstdint>
 
 // The head of every frame: 16 bytes in little-endian host order, without gaps. The payload starts
-// behind it, at offset 16, or at 24 in the signalling frames, which have 8 bytes of their own first.
+// behind it, at offset 16, or at 24 in the signalling frames, which have 8 bytes of their own
+// first.
 struct req_param_t {
   std::uint16_t Prim;  // the service addressed, a Primitive
   std::uint16_t Type;  // the operation within it

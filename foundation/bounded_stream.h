@@ -27,7 +27,8 @@ class BoundedStream : public std::ostream {
     }
 
    protected:
-    pos_type seekoff(off_type offset, std::ios_base::seekdir from, std::ios_base::openmode) override {
+    pos_type seekoff(off_type offset, std::ios_base::seekdir from,
+                     std::ios_base::openmode) override {
       const off_type base = from == std::ios_base::cur   ? pptr() - pbase()
                             : from == std::ios_base::end ? epptr() - pbase()
                                                          : 0;
