@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::size_t maxClients = 32;
 constexpr std::size_t longestLine = 4096;
+constexpr char tooLong[] = "the line is too long";
 constexpr mode_t ownerOnly = 0600;
 
 }  // namespace
@@ -50,13 +51,13 @@ bool ControlServer::answerLines(unsigned id) {
     if (!answer(id, line)) return false;
   }
   if (pending.size() <= longestLine) return true;
-  send(id, "error: the line is too long\n");
+  send(id, std::string("error: ") + tooLong + "\n");
   if (clients_.contains(id)) drop(id);
   return false;
 }
 
 bool ControlServer::answer(unsigned id, const std::string& line) {
-  const Reply reply = runner_.run(line, "control");
+  const Reply reply = line.size() > longestLine ? Reply{"", tooLong} : runner_.run(line, "control");
   return send(id, reply.lines + (reply.error.empty() ? "ok\n" : "error: " + reply.error + "\n"));
 }
 

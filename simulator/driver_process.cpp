@@ -49,16 +49,17 @@ int runDriver(const Options& options) {
     if (const auto error = playScenario(runner, options.scenario); !error.empty())
       return complain(error, badScenario);
 
-  Trace trace(clock);
-  if (!options.trace.empty() && !trace.writeTo(options.trace))
-    return complain(options.trace + ": " + std::strerror(errno), cannotRun);
   ControlServer control(loop, runner);
   if (!options.control.empty())
     if (const auto error = control.listenAt(options.control); !error.empty())
       return complain(error, cannotRun);
+  Trace trace(clock);
   WireServer server(loop, simulator, trace);
   if (const auto error = server.listenAt(options.device); !error.empty())
     return complain(error, cannotRun);
+  // Made empty only now: another simulator on this device may be writing it.
+  if (!options.trace.empty() && !trace.writeTo(options.trace))
+    return complain(options.trace + ": " + std::strerror(errno), cannotRun);
 
   std::printf("lisim: ready on %s\n", options.device.c_str());
   std::fflush(stdout);
