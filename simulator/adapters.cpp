@@ -124,7 +124,7 @@ Answer Adapters::switchLink(int index) {
   return Answer::done;
 }
 
-// Gives back the board's own link and takes it out of the pairs it backs up.
+// Takes a primary out of its pair: it carries its own link again. Of no effect on a backup.
 void Adapters::leavePair(int index) {
   Board& one = board(index);
   one.backup = noBoard;

@@ -12,7 +12,6 @@ namespace {
 constexpr std::uint16_t sigHead = signallingDataOffset - plainDataOffset;
 constexpr std::uint16_t sigRecordBytes = signallingFrameBytes - signallingDataOffset;
 
-// How many bytes the answer has is the table's business: the dispatcher hands over `replyBytes`.
 template <std::uint16_t replyBytes>
 Answer idleRecord(Request& request) {
   request.reply(std::array<std::uint8_t, replyBytes>{});

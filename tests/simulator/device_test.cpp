@@ -184,7 +184,7 @@ TEST(Device, MalformedMessagesAreAnsweredOrEndTheSession) {
 
   LisimClient early(lisim.device());
   EXPECT_EQ(early.query(primAalQuery, aalBoardState, 0, 16).wire.code, std::uint32_t{EBADF});
-  for (const std::size_t size : {0, 1, 19}) {
+  for (const std::size_t size : {0U, 1U, 19U}) {
     LisimClient brief(lisim.device());
     ASSERT_TRUE(brief.sendRaw(LisimBytes(size))) << size;
     EXPECT_FALSE(brief.receive()) << size;
