@@ -1,16 +1,10 @@
 #pragma once
 
-/// The pictures compiled into the program: buttons, lamps, icons and cursors.
-namespace images {
+// The pictures compiled into the program: buttons, lamps, icons and cursors.
 
-/// What a picture is, numbered as the resource kinds are.
-enum Kind { kCursor = 1, kBitmap = 2, kIcon = 3 };
-
-/// The image of a Windows file, alive and unchanging for the program's run, or null when the kind
-/// has no such id.
-///   kCursor  30000 and 30001: .cur, 32 by 32 pixels, 1 bit each
-///   kBitmap  500 to 536: .bmp ("BM"), 4 bits each, six frames side by side; some share an image
-///   kIcon    100 to 103: .ico; 100 is 32 by 32 of 8 bits, the others 16 by 16 of 4 bits
-const unsigned char* findImage(int id, int kind);
-
-}  // namespace images
+// The image of a Windows file, alive and unchanging for the program's run, or null when the kind
+// has no such id.
+//   zResCursor  30000 and 30001: .cur, 32 by 32 pixels, 1 bit each
+//   zResBitmap  500 to 536: .bmp ("BM"), 4 bits each, six frames side by side; some share an image
+//   zResIcon    100 to 103: .ico; 100 is 32 by 32 of 8 bits, the others 16 by 16 of 4 bits
+const unsigned char* ziFindImage(int id, int kind);

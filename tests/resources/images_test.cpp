@@ -1,12 +1,13 @@
 #include "framework/resources/images.h"
 
+#include "framework/resources/resources.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
-namespace images {
 namespace {
 
 constexpr unsigned kFrames = 6;
@@ -19,7 +20,7 @@ unsigned word32(const unsigned char* at) {
   return word16(at) | word16(at + 2) << 16;
 }
 
-/// A compiled-in bitmap; positions count from the top left pixel, as they are shown.
+// A compiled-in bitmap; positions count from the top left pixel, as they are shown.
 struct Bitmap {
   explicit Bitmap(const unsigned char* file)
       : data(file), width(word32(file + 18)), height(word32(file + 22)) {}
@@ -69,9 +70,9 @@ const std::vector<BitmapCase> kBitmaps = {
 TEST(Images, BitmapsAreSixFramesOfTheirSize) {
   for (const auto& expected : kBitmaps) {
     SCOPED_TRACE(expected.ids[0]);
-    const unsigned char* data = findImage(expected.ids[0], kBitmap);
+    const unsigned char* data = ziFindImage(expected.ids[0], zResBitmap);
     ASSERT_NE(data, nullptr);
-    for (int id : expected.ids) EXPECT_EQ(findImage(id, kBitmap), data) << id;
+    for (int id : expected.ids) EXPECT_EQ(ziFindImage(id, zResBitmap), data) << id;
     const Bitmap bitmap(data);
     EXPECT_EQ(word16(data), 0x4D42U);
     EXPECT_EQ(bitmap.width, expected.width);
@@ -86,7 +87,7 @@ TEST(Images, BitmapsAreSixFramesOfTheirSize) {
 
 TEST(Images, FramesStandOnTheDialogsGrey) {
   for (const auto& expected : kBitmaps) {
-    const Bitmap bitmap(findImage(expected.ids[0], kBitmap));
+    const Bitmap bitmap(ziFindImage(expected.ids[0], zResBitmap));
     const unsigned width = bitmap.width / kFrames;
     for (unsigned left = 0; left < bitmap.width; left += width)
       for (unsigned x : {left, left + width - 1})
@@ -98,14 +99,14 @@ TEST(Images, FramesStandOnTheDialogsGrey) {
 TEST(Images, StatesLookDifferent) {
   for (const auto& expected : kBitmaps) {
     SCOPED_TRACE(expected.ids[0]);
-    const Bitmap bitmap(findImage(expected.ids[0], kBitmap));
+    const Bitmap bitmap(ziFindImage(expected.ids[0], zResBitmap));
     EXPECT_NE(bitmap.frame(0), bitmap.frame(1)) << "off, disabled";
     EXPECT_NE(bitmap.frame(0), bitmap.frame(3)) << "off, depressed";
     EXPECT_NE(bitmap.frame(4), bitmap.frame(5)) << "on, disabled";
     EXPECT_NE(bitmap.frame(4), bitmap.frame(2)) << "on, depressed";
   }
   for (int twoStates : {502, 515, 518}) {
-    const Bitmap bitmap(findImage(twoStates, kBitmap));
+    const Bitmap bitmap(ziFindImage(twoStates, zResBitmap));
     EXPECT_NE(bitmap.frame(0), bitmap.frame(4)) << twoStates;
   }
 }
@@ -118,14 +119,15 @@ struct IconCase {
 
 TEST(Images, IconsAndCursorsAreOneImageWithItsMask) {
   const std::vector<IconCase> cases = {
-      {100, kIcon, 32, 8, 1, 8}, {101, kIcon, 16, 4, 1, 4},       {102, kIcon, 16, 4, 1, 4},
-      {103, kIcon, 16, 4, 1, 4}, {30000, kCursor, 32, 1, 16, 15}, {30001, kCursor, 32, 1, 15, 16},
+      {100, zResIcon, 32, 8, 1, 8},       {101, zResIcon, 16, 4, 1, 4},
+      {102, zResIcon, 16, 4, 1, 4},       {103, zResIcon, 16, 4, 1, 4},
+      {30000, zResCursor, 32, 1, 16, 15}, {30001, zResCursor, 32, 1, 15, 16},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.id);
-    const unsigned char* data = findImage(c.id, c.kind);
+    const unsigned char* data = ziFindImage(c.id, c.kind);
     ASSERT_NE(data, nullptr);
-    EXPECT_EQ(word16(data + 2), c.kind == kIcon ? 1U : 2U);
+    EXPECT_EQ(word16(data + 2), c.kind == zResIcon ? 1U : 2U);
     EXPECT_EQ(word16(data + 4), 1U) << "images";
     EXPECT_EQ(data[6], c.side);
     EXPECT_EQ(data[7], c.side);
@@ -142,11 +144,11 @@ TEST(Images, IconsAndCursorsAreOneImageWithItsMask) {
 }
 
 TEST(Images, OthersAreNull) {
-  for (int id : {499, 537, 100, 30000, 0, -1}) EXPECT_EQ(findImage(id, kBitmap), nullptr) << id;
-  for (int id : {99, 104, 500}) EXPECT_EQ(findImage(id, kIcon), nullptr) << id;
-  for (int id : {29999, 30002, 100}) EXPECT_EQ(findImage(id, kCursor), nullptr) << id;
-  for (int kind : {0, 4, 5, -1}) EXPECT_EQ(findImage(500, kind), nullptr) << kind;
+  for (int id : {499, 537, 100, 30000, 0, -1})
+    EXPECT_EQ(ziFindImage(id, zResBitmap), nullptr) << id;
+  for (int id : {99, 104, 500}) EXPECT_EQ(ziFindImage(id, zResIcon), nullptr) << id;
+  for (int id : {29999, 30002, 100}) EXPECT_EQ(ziFindImage(id, zResCursor), nullptr) << id;
+  for (int kind : {0, 4, 5, -1}) EXPECT_EQ(ziFindImage(500, kind), nullptr) << kind;
 }
 
 }  // namespace
-}  // namespace images
