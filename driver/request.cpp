@@ -52,12 +52,16 @@ int reqParam::daiRequest() {
   return lastResult_;
 }
 
-void reqParam::setInput(unsigned short type, unsigned short frameBytes, const void* payload,
-                        std::size_t payloadBytes) {
+void reqParam::setInput(unsigned short type, unsigned short frameBytes) {
   if (capacity_ < frameBytes) growFrame(frameBytes);
   header_->Type = type;
   header_->Size = frameBytes;
   header_->SzIO = frameBytes;
+}
+
+void reqParam::setInput(unsigned short type, unsigned short frameBytes, const void* payload,
+                        std::size_t payloadBytes) {
+  setInput(type, frameBytes);
   std::copy_n(static_cast<const std::uint8_t*>(payload), std::min(payloadBytes, payloadRoom()),
               data_);
 }

@@ -34,10 +34,13 @@ class reqParam {
   // Sends the frame and takes the answer. Returns 0 on success, -1 otherwise (see dai_req).
   int daiRequest();
 
-  // Makes the frame the input of operation `type`: `frameBytes` long, head included, with the
-  // `payloadBytes` at `payload` in it, cut to what the frame holds. The head is kept otherwise.
-  void setInput(unsigned short type, unsigned short frameBytes, const void* payload = nullptr,
-                std::size_t payloadBytes = 0);
+  // Makes the frame the input of operation `type`: `frameBytes` long, head included. The rest of
+  // the head is kept, and the payload unless the frame has to grow.
+  void setInput(unsigned short type, unsigned short frameBytes);
+
+  // The same with the `payloadBytes` at `payload` in it, cut to what such a frame carries.
+  void setInput(unsigned short type, unsigned short frameBytes, const void* payload,
+                std::size_t payloadBytes);
 
   // Addresses the requests from here on to an adapter and an instance on it.
   void setTarget(unsigned char link, unsigned char unit);

@@ -25,8 +25,8 @@ int openNode(const char* path, int oflag) {
   return ::open(path, oflag | O_CLOEXEC, 0);
 }
 
-int nodeIoctl(int descriptor, int request, strioctl* exchange) {
-  return ::ioctl(descriptor, request, exchange);
+int nodeExchange(int descriptor, strioctl* exchange) {
+  return ::ioctl(descriptor, I_STR, exchange);
 }
 #else
 bool isStreamsNode(const char*) {
@@ -38,7 +38,7 @@ int openNode(const char*, int) {
   return -1;
 }
 
-int nodeIoctl(int, int, strioctl*) {
+int nodeExchange(int, strioctl*) {
   errno = EBADF;
   return -1;
 }
@@ -77,7 +77,7 @@ int streams_open(const char* path, int oflag) {
 
 int streams_ioctl(int descriptor, int request, strioctl* exchange) {
   const auto session = serials().find(descriptor);
-  if (session == serials().end()) return nodeIoctl(descriptor, request, exchange);
+  if (session == serials().end()) return nodeExchange(descriptor, exchange);
   const int error =
       isSound(request, exchange) ? exchangeFrame(descriptor, ++session->second, *exchange) : EINVAL;
   if (error == 0) return 0;
