@@ -55,81 +55,59 @@ struct QueriesTest : FrameDriverTest {
 };
 
 struct Queries {
-  aalInfo aal;
-  vccInfo vcc;
-  lecInfo lec;
-  lesInfo les;
-  lecsInfo lecs;
-  ip1577Info ip;
-  sigInfo sig;
-  explicit Queries(int session)
-      : aal(session, 1, 0),
-        vcc(session, 1, 0),
-        lec(session, 1, 2),
-        les(session, 1, 2),
-        lecs(session, 1, 0),
-        ip(session, 1, 0),
-        sig(session, 1, 0) {}
+  int session;
+  aalInfo aal{session, 1, 0};
+  vccInfo vcc{session, 1, 0};
+  lecInfo lec{session, 1, 2};
+  lesInfo les{session, 1, 2};
+  lecsInfo lecs{session, 1, 0};
+  ip1577Info ip{session, 1, 0};
+  sigInfo sig{session, 1, 0};
 };
 
+// Its answer, then the primitive, type, link, unit, size and input size it sent, and its log line.
+struct QueryCase {
+  bool (*ask)(Queries&);
+  int prim, type, link, unit, size, input;
+  const char* logLine;
+};
+// clang-format off
+const QueryCase queryCases[] = {
+    {[](Queries& q) { return q.aal.GetBoardState() != nullptr; }, 129, 1, 1, 0, 32, 16, "GET_BRDS_STATE"},
+    {[](Queries& q) { return q.aal.GetBoardMacAddress(8) != nullptr; }, 129, 2, 1, 0, 32, 32, "GET_BRDS_MACADDR"},
+    {[](Queries& q) { return q.aal.GetAalStats(6, 5) != nullptr; }, 129, 3, 6, 5, 116, 16, "GET_AAL_DRV_STATS"},
+    {[](Queries& q) { return q.aal.GetSuniStats() != nullptr; }, 129, 4, 6, 5, 252, 16, "GET_SUNI_STATS"},
+    {[](Queries& q) { return q.aal.GetPackageRev() != nullptr; }, 129, 5, 6, 5, 56, 16, "GET_PACKAGE_REV"},
+    {[](Queries& q) { return q.aal.GetRLSStatus(3) != nullptr; }, 129, 16, 3, 0, 20, 16, "GET_RLS_STATUS"},
+    {[](Queries& q) { return q.vcc.GetBoardMaxVC(4, 0) == 0x04030201; }, 1, 5, 4, 0, 20, 16, "GET_MAX_VC"},
+    {[](Queries& q) { return q.vcc.GetTable(5, 16) != nullptr; }, 1, 4, 4, 0, 336, 16, "GET_VC_TBL"},
+    {[](Queries& q) { return q.lec.GetState() != nullptr; }, 20, 1, 1, 2, 32, 16, "GET_LEC_STATE"},
+    {[](Queries& q) { return q.lec.GetStats(7, 15) != nullptr; }, 20, 2, 7, 15, 956, 16, "GET_LEC_STATS"},
+    {[](Queries& q) { return q.lec.GetTable(0, 3, 1, 13) != nullptr; }, 20, 4, 0, 3, 952, 16, "GET_LEC_TBL"},
+    {[](Queries& q) { return q.les.GetState() != nullptr; }, 21, 1, 1, 2, 28, 16, "GET_LES_STATE"},
+    {[](Queries& q) { return q.les.GetStats() != nullptr; }, 21, 2, 1, 2, 132, 16, "GET_LES_STATS"},
+    {[](Queries& q) { return q.les.GetTable(1, 15) != nullptr; }, 21, 4, 1, 2, 976, 16, "GET_LES_TBL"},
+    {[](Queries& q) { return q.lecs.GetState() != nullptr; }, 22, 1, 1, 0, 24, 16, "GET_LECS_STATE"},
+    {[](Queries& q) { return q.lecs.GetStats() != nullptr; }, 22, 2, 1, 0, 64, 16, "GET_LECS_STATS"},
+    {[](Queries& q) { return q.lecs.GetTable(1, 200) != nullptr; }, 22, 4, 1, 0, 1816, 16, "GET_LECS_TBL"},
+    {[](Queries& q) { return q.ip.GetState() != nullptr; }, 66, 1, 1, 0, 32, 16, "GET_IP_STATE"},
+    {[](Queries& q) { return q.ip.GetStats() != nullptr; }, 66, 2, 1, 0, 176, 16, "GET_IP_STATS"},
+    {[](Queries& q) { return q.ip.GetTable(1, 100) != nullptr; }, 66, 4, 1, 0, 5616, 16, "GET_IP_TBL"},
+    {[](Queries& q) { return q.ip.GetPvcTable(1, 60) != nullptr; }, 66, 6, 1, 0, 1216, 16, "GET_IP_PVC_TBL"},
+    {[](Queries& q) { return q.ip.GetPvcNRows() == 60; }, 66, 5, 1, 0, 16, 16, "GET_NROWS"},
+    {[](Queries& q) { return q.sig.GetLinkState() != nullptr; }, 33, 1, 1, 0, 288, 24, "DaiSigLnkStatus"},
+};
+// clang-format on
+
 TEST_F(QueriesTest, EachQueryAsksAsTold) {
-  const struct {
-    bool (*ask)(Queries&);
-    int prim, type, link, unit, size, input;
-    const char* logLine;
-  } cases[] = {
-      {[](Queries& q) { return q.aal.GetBoardState() != nullptr; }, 129, 1, 1, 0, 32, 16,
-       "GET_BRDS_STATE"},
-      {[](Queries& q) { return q.aal.GetBoardMacAddress(8) != nullptr; }, 129, 2, 1, 0, 32, 32,
-       "GET_BRDS_MACADDR"},
-      {[](Queries& q) { return q.aal.GetAalStats(6, 5) != nullptr; }, 129, 3, 6, 5, 116, 16,
-       "GET_AAL_DRV_STATS"},
-      {[](Queries& q) { return q.aal.GetSuniStats() != nullptr; }, 129, 4, 6, 5, 252, 16,
-       "GET_SUNI_STATS"},
-      {[](Queries& q) { return q.aal.GetPackageRev() != nullptr; }, 129, 5, 6, 5, 56, 16,
-       "GET_PACKAGE_REV"},
-      {[](Queries& q) { return q.aal.GetRLSStatus(3) != nullptr; }, 129, 16, 3, 0, 20, 16,
-       "GET_RLS_STATUS"},
-      {[](Queries& q) { return q.vcc.GetBoardMaxVC(4, 0) == 0x04030201; }, 1, 5, 4, 0, 20, 16,
-       "GET_MAX_VC"},
-      {[](Queries& q) { return q.vcc.GetTable(5, 16) != nullptr; }, 1, 4, 4, 0, 336, 16,
-       "GET_VC_TBL"},
-      {[](Queries& q) { return q.lec.GetState() != nullptr; }, 20, 1, 1, 2, 32, 16,
-       "GET_LEC_STATE"},
-      {[](Queries& q) { return q.lec.GetStats(7, 15) != nullptr; }, 20, 2, 7, 15, 956, 16,
-       "GET_LEC_STATS"},
-      {[](Queries& q) { return q.lec.GetTable(0, 3, 1, 13) != nullptr; }, 20, 4, 0, 3, 952, 16,
-       "GET_LEC_TBL"},
-      {[](Queries& q) { return q.les.GetState() != nullptr; }, 21, 1, 1, 2, 28, 16,
-       "GET_LES_STATE"},
-      {[](Queries& q) { return q.les.GetStats() != nullptr; }, 21, 2, 1, 2, 132, 16,
-       "GET_LES_STATS"},
-      {[](Queries& q) { return q.les.GetTable(1, 15) != nullptr; }, 21, 4, 1, 2, 976, 16,
-       "GET_LES_TBL"},
-      {[](Queries& q) { return q.lecs.GetState() != nullptr; }, 22, 1, 1, 0, 24, 16,
-       "GET_LECS_STATE"},
-      {[](Queries& q) { return q.lecs.GetStats() != nullptr; }, 22, 2, 1, 0, 64, 16,
-       "GET_LECS_STATS"},
-      {[](Queries& q) { return q.lecs.GetTable(1, 200) != nullptr; }, 22, 4, 1, 0, 1816, 16,
-       "GET_LECS_TBL"},
-      {[](Queries& q) { return q.ip.GetState() != nullptr; }, 66, 1, 1, 0, 32, 16, "GET_IP_STATE"},
-      {[](Queries& q) { return q.ip.GetStats() != nullptr; }, 66, 2, 1, 0, 176, 16, "GET_IP_STATS"},
-      {[](Queries& q) { return q.ip.GetTable(1, 100) != nullptr; }, 66, 4, 1, 0, 5616, 16,
-       "GET_IP_TBL"},
-      {[](Queries& q) { return q.ip.GetPvcTable(1, 60) != nullptr; }, 66, 6, 1, 0, 1216, 16,
-       "GET_IP_PVC_TBL"},
-      {[](Queries& q) { return q.ip.GetPvcNRows() == 60; }, 66, 5, 1, 0, 16, 16, "GET_NROWS"},
-      {[](Queries& q) { return q.sig.GetLinkState() != nullptr; }, 33, 1, 1, 0, 288, 24,
-       "DaiSigLnkStatus"},
-  };
   startDriver([](req_param_t& head, Payload& payload) {
     for (std::size_t i = 0; i < payload.size(); ++i) payload[i] = static_cast<std::uint8_t>(i + 1);
     if (head.Type == ipPvcNRows) head.NRow = 60;
     return head.Resp = 0;
   });
   captureLog();
-  Queries queries(session_);
-  for (const auto& c : cases) {
+  Queries queries{session_};
+  for (const auto& c : queryCases) {
     EXPECT_TRUE(c.ask(queries)) << c.logLine;
     const req_param_t sent = frames().back().head;
     EXPECT_EQ(std::vector<int>({sent.Prim, sent.Type, sent.Link, sent.Unit, sent.Size, sent.SzIO}),
@@ -141,13 +119,13 @@ TEST_F(QueriesTest, EachQueryAsksAsTold) {
   EXPECT_EQ(queries.sig.GetLinkState()->ilmi, 8 + 3) << "behind the signalling head";
 
   driver_.reset();
-  for (const auto& c : cases) EXPECT_FALSE(c.ask(queries)) << c.logLine;
+  for (const auto& c : queryCases) EXPECT_FALSE(c.ask(queries)) << c.logLine;
 }
 
 TEST_F(QueriesTest, LongTablesTakeAsManyRequestsAsTheirPages) {
   Table table;
   serve(table);
-  Queries queries(session_);
+  Queries queries{session_};
   const struct {
     std::size_t rowBytes;
     std::uint16_t rows;
@@ -200,18 +178,17 @@ TEST_F(QueriesTest, FaultyPagesShortenOrSpoilATable) {
     std::uint16_t rows;
     std::size_t failedPage;
     std::uint16_t shortPage;
-    std::uint16_t lie;
     std::vector<int> expected;
   } cases[] = {
-      {"first page fails", 26, 1, 0xFFFF, 0, upTo(13)},
-      {"last page fails", 26, 2, 0xFFFF, 0, {}},
-      {"pages are short, and asked for only as often as full ones", 39, 0, 10, 0, upTo(30)},
-      {"no rows at all", 26, 0, 0, 0, {}},
+      {"first page fails", 26, 1, 0xFFFF, upTo(13)},
+      {"last page fails", 26, 2, 0xFFFF, {}},
+      {"pages are short, and asked for only as often as full ones", 39, 0, 10, upTo(30)},
+      {"no rows at all", 26, 0, 0, {}},
   };
   Table table;
   serve(table);
   for (const auto& c : cases) {
-    table = {c.rows, 72, 0, c.failedPage, c.shortPage, c.lie};
+    table = {c.rows, 72, 0, c.failedPage, c.shortPage};
     lecInfo lec(session_, 0, 0);
     const lec_tbl_t* rows = lec.GetEntireTable();
     EXPECT_EQ(numbers(rows, lec), c.expected) << c.name;

@@ -6,62 +6,44 @@
 
 namespace {
 
-// Each row goes through all values of the function, from `first` on, with "XXXX" for the rest.
+// The words of the values 0 to `last`, then that of 254, which no function knows, and of 255.
+template <class Argument>
+std::string words(const char* (*name)(Argument), int last) {
+  std::string all;
+  for (int value = 0; value <= last; ++value)
+    all += name(static_cast<Argument>(value)) + std::string("|");
+  return all + name(static_cast<Argument>(254)) + "|" + name(static_cast<Argument>(255));
+}
+
 TEST(StateNames, EveryValueHasItsWord) {
-  const struct {
-    const char* function;
-    std::string (*name)(int);
-    int last;
-    const char* words;
-  } cases[] = {
-      {"Mtu", [](int v) -> std::string { return MtuTypeToString(static_cast<short>(v)); }, 5,
-       "XXXX|1516|4544|9234|18190|XXXX|"},
-      {"Elan", [](int v) -> std::string { return ElanTypeToString(static_cast<short>(v)); }, 3,
-       "XXXX|Ethernet|Token Ring|XXXX|"},
-      {"Bus", [](int v) -> std::string { return BusStateToString(static_cast<short>(v)); }, 4,
-       "Idle|Signalling A|Signalling B|Active|XXXX|"},
-      {"Saal",
-       [](int v) -> std::string { return SaalStateToString(static_cast<unsigned char>(v)); }, 10,
-       "SSCOP Idle|Outgoing Connection Pending|Incoming Connection Pending|"
-       "Outgoing disconnection pending|Outgoing resync pending|Incoming resync pending|"
-       "Outgoing recovery pending|Incoming recovery pending|Recovery response pending|"
-       "Data transfer ready|XXXX|"},
-      {"Sig", [](int v) -> std::string { return SigStateToString(static_cast<unsigned char>(v)); },
-       2, "Signalling Disconnected|Signalling Ready|XXXX|"},
-      {"Ilmi",
-       [](int v) -> std::string { return IlmiStateToString(static_cast<unsigned char>(v)); }, 4,
-       "ILMI Disabled|ILMI Registering|ILMI Registered|ILMI Static Registration|XXXX|"},
-      {"Lmac", [](int v) -> std::string { return LmacStateToString(static_cast<short>(v)); }, 6,
-       "Unused MAC entry|Waiting for VCC connection|Active|Waiting for ARP response|"
-       "Waiting for InARP response|Reverifying connection|XXXX|"},
-  };
-  for (const auto& c : cases) {
-    std::string words;
-    for (int value = 0; value <= c.last; ++value) words += c.name(value) + "|";
-    EXPECT_EQ(words, c.words) << c.function;
-    EXPECT_EQ(c.name(254), "XXXX") << c.function;
-  }
-  EXPECT_STREQ(SaalStateToString(255), "SSCOP Not configured");
-  EXPECT_STREQ(SigStateToString(255), "Signalling Not configured");
-  EXPECT_STREQ(IlmiStateToString(255), "ILMI Not configured");
-  EXPECT_STREQ(LmacStateToString(-1), "XXXX");
+  EXPECT_EQ(words(MtuTypeToString, 5), "XXXX|1516|4544|9234|18190|XXXX|XXXX|XXXX");
+  EXPECT_EQ(words(ElanTypeToString, 3), "XXXX|Ethernet|Token Ring|XXXX|XXXX|XXXX");
+  EXPECT_EQ(words(BusStateToString, 4), "Idle|Signalling A|Signalling B|Active|XXXX|XXXX|XXXX");
+  EXPECT_EQ(words(SaalStateToString, 10),
+            "SSCOP Idle|Outgoing Connection Pending|Incoming Connection Pending|"
+            "Outgoing disconnection pending|Outgoing resync pending|Incoming resync pending|"
+            "Outgoing recovery pending|Incoming recovery pending|Recovery response pending|"
+            "Data transfer ready|XXXX|XXXX|SSCOP Not configured");
+  EXPECT_EQ(words(SigStateToString, 2),
+            "Signalling Disconnected|Signalling Ready|XXXX|XXXX|Signalling Not configured");
+  EXPECT_EQ(words(IlmiStateToString, 4),
+            "ILMI Disabled|ILMI Registering|ILMI Registered|ILMI Static Registration|XXXX|XXXX|"
+            "ILMI Not configured");
+  EXPECT_EQ(words(LmacStateToString, 6),
+            "Unused MAC entry|Waiting for VCC connection|Active|Waiting for ARP response|"
+            "Waiting for InARP response|Reverifying connection|XXXX|XXXX|XXXX");
 }
 
 TEST(StateNames, EveryStateHasItsColor) {
-  const struct {
-    unsigned (*color)(unsigned char);
-    const char* upTo10;
-  } cases[] = {{IlmiStateToColor, "01221111111"},
-               {SaalStateToColor, "11111111121"},
-               {SigStateToColor, "12111111111"}};
-  for (const auto& c : cases) {
-    std::string colors;
-    for (int state = 0; state <= 10; ++state)
-      colors += std::to_string(c.color(static_cast<unsigned char>(state)));
-    EXPECT_EQ(colors, c.upTo10);
-    EXPECT_EQ(c.color(254), 1U);
-    EXPECT_EQ(c.color(255), 0U);
-  }
+  const auto colors = [](unsigned (*color)(unsigned char)) {
+    std::string all;
+    for (const int state : {0, 1, 2, 3, 4, 8, 9, 10, 254, 255})
+      all += std::to_string(color(static_cast<unsigned char>(state)));
+    return all;
+  };
+  EXPECT_EQ(colors(IlmiStateToColor), "0122111110");
+  EXPECT_EQ(colors(SaalStateToColor), "1111112110");
+  EXPECT_EQ(colors(SigStateToColor), "1211111110");
 }
 
 }  // namespace
