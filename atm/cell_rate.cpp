@@ -83,7 +83,7 @@ std::uint32_t CellRateValue::cps_to_bps(std::uint32_t rate) {
 std::uint16_t CellRateValue::cellrate_to_float(std::uint32_t rate) {
   const std::uint32_t counted = rate & 0xFFFFFF;
   if (counted == 0) return 0;
-  const int exponent = std::bit_width(counted) - 1;
+  const int exponent = static_cast<int>(std::bit_width(counted)) - 1;
   const std::uint32_t scaled = exponent < mantissaBits ? rate << (mantissaBits - exponent)
                                                        : rate >> (exponent - mantissaBits);
   return static_cast<std::uint16_t>(nonZeroFlag | static_cast<std::uint32_t>(exponent) << 9 |

@@ -28,8 +28,8 @@ class PdfEdit {
   void DisplayError(const char* what);
 
   // The outcome of the last step.
-  enum Status { good = 0, failed = 2 };
-  Status status() const { return status_; }
+  enum Outcome { good = 0, failed = 2 };
+  Outcome status() const { return status_; }
 
   // The full name of the file.
   const char* fileName() const { return pdfFileName_; }
@@ -44,7 +44,7 @@ class PdfEdit {
   };
 
   zWindow* parent_;
-  Status status_ = good;
+  Outcome status_ = good;
   bool displayErrors_;
   std::unique_ptr<SectHandle, Closer> section_;
   char pdfFileName_[sectNameBytes];

@@ -153,17 +153,17 @@ SectHandle* ValidHandle(SectHandle* handle) {
 }
 
 int SectReadLine(SectHandle* handle) {
-  // A line may hold NULs of its own: the last one in front of the line feeds laid out here is the
-  // terminator.
-  std::memset(handle->linebuf, '\n', sectLineBytes);
-  if (std::fgets(handle->linebuf, sectLineBytes, handle->rfd) == nullptr) {
-    handle->linebuf[0] = '\0';
-    handle->lineLength = 0;
-    return 0;
+  char* next = handle->linebuf;
+  const char* limit = handle->linebuf + sectLineBytes - 1;
+  while (next != limit) {
+    const int c = getc_unlocked(handle->rfd);
+    if (c == EOF) break;
+    *next++ = static_cast<char>(c);
+    if (c == '\n') break;
   }
-  const void* terminator = memrchr(handle->linebuf, '\0', sectLineBytes);
-  handle->lineLength =
-      static_cast<std::int32_t>(static_cast<const char*>(terminator) - handle->linebuf);
+  *next = '\0';
+  handle->lineLength = static_cast<std::int32_t>(next - handle->linebuf);
+  if (handle->lineLength == 0) return 0;
   ++handle->line;
   sectTrace("line %-3d %s", handle->line, handle->linebuf);
   return handle->lineLength;
