@@ -1,0 +1,11 @@
+#include "applet/run_state.h"
+
+std::int32_t currentAdapter = 0;
+std::uint32_t MaintimerTime = 6000;
+std::string dlgTitle;
+std::int32_t ioctlDesc;
+std::uint8_t DaiOpenSuccess = 0;
+std::uint8_t BoardIsThere[maxAdapters] = {};
+std::int32_t advSettings = 0;
+char mainBuffer[mainBufferBytes];
+char brennwick_driver_revision[40];

@@ -1,0 +1,139 @@
+#include "framework/controls/control.h"
+
+#include <X11/keysym.h>
+#include <Xm/Xm.h>
+
+#include "framework/core/app.h"
+#include "framework/core/errors.h"
+#include "framework/core/event_translation.h"
+#include "framework/core/x_text.h"
+
+zControl::zControl(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id,
+                   int subType)
+    : zChildWin(parent, sizer, style ? style : static_cast<unsigned long>(zStyleTabStop), title,
+                id),
+      subType_(subType) {
+  ziSetType(zTypeControl);
+}
+
+zControl::zControl(zWindow* parent, int id) : zChildWin(parent, id), subType_(subTypeOther) {
+  ziSetType(zTypeControl);
+  if (husk() && husk()->isA(zTypeControl)) {
+    const auto* old = static_cast<const zControl*>(husk());
+    textColor_ = old->textColor_;
+    subType_ = old->subType_;
+  }
+  bury();
+}
+
+std::vector<Arg> zControl::commonArgs() const {
+  const bool tabStop = (styleValue() & zStyleTabStop) != 0;
+  std::vector<Arg> args(6);
+  XtSetArg(args[0], XmNbackground, ziClrm->pixel(backgroundColor()));
+  XtSetArg(args[1], XmNforeground, ziClrm->pixel(textColor_));
+  XtSetArg(args[2], XmNtraversalOn, tabStop);
+  XtSetArg(args[3], XmNwidth, std::max(sizer()->width(), 1));
+  XtSetArg(args[4], XmNheight, std::max(sizer()->height(), 1));
+  XtSetArg(args[5], XmNsensitive, !(styleValue() & zStyleDisabled));
+  return args;
+}
+
+int zControl::adoptWidget(Widget real, Widget scrolled) {
+  setWidgets(real, scrolled);
+  const Widget target = drawnWidget();
+  link()->control = target;
+  link()->kind = subType_;
+  XtInsertEventHandler(target, ziWindowEventMask, False, CtrlProc, link(), XtListHead);
+  return 1;
+}
+
+void zControl::addCallback(Widget widget, const char* list, XtCallbackProc procedure) {
+  XtAddCallback(widget, list, procedure, link());
+}
+
+int zControl::notifyParent(zWindow* control, unsigned code, void* callData) {
+  zEvent event(zMsgCommand);
+  event.callData = callData;
+  event.codeWord = code;
+  event.parm1 = control->ctrlId();
+  event.window = control;
+  return doCommandHandler(&event, control->parent());
+}
+
+void zControl::doText(const char* value) {
+  setTitle(value);
+}
+
+void zControl::textColor(const zColor& color) {
+  textColor_ = color;
+  if (drawnWidget()) {
+    XtVaSetValues(drawnWidget(), XmNforeground, ziClrm->pixel(color), nullptr);
+  }
+}
+
+// Where a text widget does the typing, only keys that are no plain characters are offered.
+bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
+  if (control->subType_ != subTypeEdit) return true;
+  const bool plain = key.code() < XK_BackSpace || key.code() == XK_Multi_key;
+  return !plain || key.alt() || key.ctrl();
+}
+
+void zControl::mousePressed(XEvent* event, Boolean* goOn) {
+  zMouseClickEvt click;
+  click.xEvent = event;
+  click.window = this;
+  click.message = zMsgButtonDown;
+  zWindowWatch watch(this);
+  ziPreMouseClick(&click);
+  const bool handled = eventMapHas(zMsgButtonDown) && doHandler(&click, this);
+  if (handled || watch.gone() || mouseButtonDown(&click)) *goOn = False;
+}
+
+void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn) {
+  auto* control = controlOf<zControl>(link);
+  if (!control) return;
+  switch (event->type) {
+    case KeyPress:
+    case KeyRelease: {
+      zKeyEvt key = ziKeyEvent(control, event, event->type == KeyPress ? zMsgKeyDown : zMsgKeyUp);
+      if (!keyReachesHandlers(control, key)) break;
+      zWindowWatch watch(control);
+      if (doCommandHandler(&key, control) || watch.gone()) break;
+      if (event->type == KeyPress && control->subType_ != subTypeEdit) {
+        key.message = zMsgChar;
+        control->ch(&key);
+      }
+      break;
+    }
+    case ButtonPress:
+      control->mousePressed(event, goOn);
+      break;
+    case ButtonRelease:
+      if (ziMouseReleased(control, event)) *goOn = False;
+      break;
+    case MotionNotify:
+      if (ziMouseMoved(control, event)) *goOn = False;
+      break;
+    case FocusIn:
+    case FocusOut:
+      ziFocusEvent(control, event);
+      break;
+    case EnterNotify:
+    case LeaveNotify: {
+      zEvent crossing;
+      crossing.xEvent = event;
+      crossing.window = control;
+      control->dispatch(&crossing);
+      break;
+    }
+    case MapNotify: {
+      if (control->isA(zTypeGroupBox)) {
+        XLowerWindow(XtDisplay(widget), XtWindow(XtParent(widget)));
+      }
+      control->defineCursor();
+      break;
+    }
+    default:
+      if (event->type < KeyPress || event->type > MappingNotify) debug("Invalid event type");
+  }
+}

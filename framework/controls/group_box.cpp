@@ -1,0 +1,60 @@
+#include "framework/controls/group_box.h"
+
+#include <Xm/BulletinB.h>
+#include <Xm/Frame.h>
+#include <Xm/LabelG.h>
+
+#include "framework/core/x_text.h"
+
+zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
+    : zButton(parent, sizer, style, title, id, group) {
+  ziSetType(zTypeGroupBox);
+  styleClear(zStyleClipSiblings | zStyleTabStop);
+  createFrame();
+}
+
+zGroupBox::zGroupBox(zWindow* parent, int id) : zButton(parent, id) {
+  ziSetType(zTypeGroupBox);
+  if (getWidget()) label_ = XtNameToWidget(getWidget(), "Title");
+}
+
+void zGroupBox::createFrame() {
+  const Widget board = createContainer("Frame");
+  const std::vector<Arg> args = commonArgs();
+  const Widget frame =
+      XtCreateManagedWidget("Frame", xmFrameWidgetClass, board, const_cast<Arg*>(args.data()),
+                            static_cast<Cardinal>(args.size()));
+  XtVaSetValues(frame, XmNshadowType, XmSHADOW_ETCHED_IN, XmNtraversalOn, False, nullptr);
+  XtVaCreateManagedWidget("WorkArea", xmBulletinBoardWidgetClass, frame, XmNbackground,
+                          ziClrm->pixel(backgroundColor()), XmNmarginWidth, 0, XmNmarginHeight, 0,
+                          XmNresizePolicy, XmRESIZE_NONE, XmNtraversalOn, False, nullptr);
+  adoptWidget(frame);
+  if (!title().empty()) createTitle(title().c_str());
+}
+
+void zGroupBox::createTitle(const char* title) {
+  const ziXmString text(ziParseTitle(title));
+  label_ = XtVaCreateManagedWidget("Title", xmLabelGadgetClass, getWidget(), XmNframeChildType,
+                                   XmFRAME_TITLE_CHILD, XmNchildHorizontalAlignment,
+                                   XmALIGNMENT_BEGINNING, XmNchildVerticalAlignment,
+                                   XmALIGNMENT_CENTER, XmNlabelString, text.get(), XmNfontList,
+                                   getFont() ? getFont()->fontList() : nullptr, nullptr);
+}
+
+void zGroupBox::doText(const char* value) {
+  zControl::doText(value);
+  if (!getWidget()) return;
+  if (!label_) {
+    if (*value) createTitle(value);
+    return;
+  }
+  const ziXmString text(ziParseTitle(value));
+  XtVaSetValues(label_, XmNlabelString, text.get(), nullptr);
+}
+
+void zGroupBox::ziBackgroundColor(const zColor& color) {
+  zButton::ziBackgroundColor(color);
+  if (!getWidget()) return;
+  const Widget area = XtNameToWidget(getWidget(), "WorkArea");
+  if (area) XmChangeColor(area, ziClrm->pixel(color));
+}

@@ -1,0 +1,24 @@
+// A titled frame around other controls. It is lowered when it is mapped, so that it never covers
+// what stands inside it.
+#pragma once
+
+#include "framework/controls/button.h"
+
+class zGroupBox : public zButton {
+ public:
+  zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id);
+  zGroupBox(zWindow* parent, int id);
+
+  // The title's widget, or null for a box without a title.
+  Widget getGroupLabel() const { return label_; }
+  void ziBackgroundColor(const zColor& color) override;
+
+ protected:
+  void doText(const char* value) override;
+
+ private:
+  void createFrame();
+  void createTitle(const char* title);
+
+  Widget label_ = nullptr;
+};

@@ -1,0 +1,79 @@
+#include "framework/controls/pane.h"
+
+#include <Xm/DrawingA.h>
+
+#include <utility>
+
+#include "framework/core/app.h"
+
+zPane::zPane(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
+    : zChildWin(parent, sizer, style, title, id) {
+  ziSetType(zTypePane);
+}
+
+zPane::zPane(zWindow* parent, int id) : zChildWin(parent, id) {
+  ziSetType(zTypePane);
+  bury();
+}
+
+int zPane::create() {
+  const Widget board = createContainer("Pane");
+  const zRect place = sizer()->rect();
+  const Widget area = XtVaCreateManagedWidget(
+      "DrawingArea", xmDrawingAreaWidgetClass, board, XmNwidth, std::max(place.width(), 1),
+      XmNheight, std::max(place.height(), 1), XmNmarginWidth, 0, XmNmarginHeight, 0,
+      XmNresizePolicy, XmRESIZE_NONE, XmNbackground, ziClrm->pixel(backgroundColor()),
+      XmNbackgroundPixmap, None, XmNtraversalOn, (styleValue() & zStyleTabStop) != 0, XmNsensitive,
+      !(styleValue() & zStyleDisabled), nullptr);
+  setWidgets(area, nullptr);
+  link()->control = area;
+  listen(area, ziWindowEventMask, ziWinProc);
+  XtAddCallback(area, XmNexposeCallback, exposeCB, link());
+  return 1;
+}
+
+Widget zPane::childArea() const {
+  return getContainer();
+}
+
+void zPane::vmove(int x, int y, int width, int height) {
+  zChildWin::vmove(x, y, width, height);
+  setDirty(nullptr, 0);
+}
+
+void zPane::draw(zDrawEvt* event) {
+  event->display->setColor(backgroundColor());
+  event->display->fillRect(event->area);
+}
+
+void zPane::exposeCB(Widget, XtPointer link, XtPointer callData) {
+  auto* pane = static_cast<zPane*>(static_cast<ziControlCB*>(link)->window);
+  const XEvent* event = static_cast<const XmDrawingAreaCallbackStruct*>(callData)->event;
+  if (!event || event->type != Expose) return;
+  const XExposeEvent& e = event->xexpose;
+  pane->exposed_ = pane->exposed_.unionWith({zPoint{e.x, e.y}, {e.width, e.height}});
+  if (e.count > 0) return;
+  const zRect area = std::exchange(pane->exposed_, zRect());
+  pane->paint(area);
+}
+
+void zPane::paint(const zRect& area) {
+  zRect inside;
+  getInterior(inside);
+  const zRect seen = area.intersection(inside);
+  if (seen.isEmpty()) return;
+  zPixmapDisplay image({inside.width(), inside.height()});
+  image.setFont(getFont());
+  image.lock();
+  image.setClip(seen);
+  zDrawEvt event;
+  event.area = seen;
+  event.display = &image;
+  event.window = this;
+  draw(&event);
+  image.unlock();
+  zWinDisplay window(this);
+  window.lock();
+  window.copy(image.drawable(), seen, seen.pos());
+  window.unlock();
+}

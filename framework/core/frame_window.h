@@ -1,0 +1,52 @@
+// Top-level windows. The first one constructed in the process is the root window, which stands in
+// the application's own shell; all others are dialogs over it.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "framework/core/window.h"
+
+class zIcon;
+
+class zFrameWin : public zWindow {
+ public:
+  zFrameWin(zWindow* parent, zSizer* sizer, unsigned long style, const char* title);
+  ~zFrameWin() override;
+
+  // The text in the title bar.
+  virtual const std::string& caption() const { return title(); }
+  virtual void caption(const std::string& text);
+  virtual void caption(const char* text) { caption(std::string(text ? text : "")); }
+
+  // Makes the shell: of the application for the first frame window.
+  virtual int create();
+
+  // The picture that stands for the window when it is iconified. Owned from here on.
+  void setIcon(std::unique_ptr<zIcon> icon);
+
+  // 0 unmaps; 2, 6 and 7 iconify; 3 takes the whole screen; any other value maps.
+  int showSet(int how) override;
+  void getExterior(zRect& rect) const override;
+  void vmove(int x, int y, int width, int height) override;
+
+  Widget shell() const { return shell_; }
+  bool isRoot() const;
+
+ protected:
+  void setShell(Widget shell) { shell_ = shell; }
+  void applyIcon();
+
+  // Motif window manager decorations and functions for the window's style bits.
+  struct MwmHints {
+    int decorations;
+    int functions;
+  };
+  MwmHints mwmHints() const;
+
+ private:
+  void createApplicationShell();
+
+  Widget shell_ = nullptr;
+  std::unique_ptr<zIcon> icon_;
+};

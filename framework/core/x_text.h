@@ -1,0 +1,37 @@
+// Texts on their way to Motif, and the Motif calls that take `char*` for texts they only read.
+#pragma once
+
+#include <Xm/Xm.h>
+
+#include <string>
+#include <string_view>
+
+// `text` with every byte that a widget can't show replaced: a tab by a blank, anything outside
+// printable ASCII by '?'; line feeds stay. Widgets are given nothing else, since Motif cuts a text
+// short at bytes that are not valid in the locale.
+std::string ziSafeText(std::string_view text);
+
+// An owned XmString of a sanitised text.
+class ziXmString {
+ public:
+  explicit ziXmString(std::string_view text);
+  ~ziXmString() { XmStringFree(string_); }
+  ziXmString(const ziXmString&) = delete;
+  ziXmString& operator=(const ziXmString&) = delete;
+  XmString get() const { return string_; }
+
+ private:
+  XmString string_;
+};
+
+// Sets the font of a widget that shows text.
+void ziSetFontList(Widget widget, XmFontList fonts);
+
+// Title conventions of the templates. parseTitle drops each '&' that has a follower ("&&" yields
+// one); parseForMnemonic gives the last character behind a single '&', or 0.
+std::string ziParseTitle(std::string_view title);
+char ziParseForMnemonic(std::string_view title);
+
+// XmText's texts as owned strings, and its setters.
+std::string ziTextOf(Widget text);
+void ziSetText(Widget text, std::string_view value);

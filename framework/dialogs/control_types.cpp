@@ -1,0 +1,56 @@
+#include "framework/dialogs/control_types.h"
+
+#include <list>
+#include <memory>
+
+#include "framework/controls/group_box.h"
+#include "framework/controls/static_text.h"
+#include "framework/core/app.h"
+
+namespace {
+
+using Registry = std::list<const zControlType*>;
+
+Registry& zctd() {
+  static Registry types;
+  return types;
+}
+
+template <class Control>
+zChildWin* build(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id) {
+  return new Control(parent, sizer, style, title, id);
+}
+
+struct Row {
+  const char* name;
+  zControlType::Builder builder;
+};
+
+// By initIntPack, in this order.
+constexpr Row packRows[] = {
+    {"zStatTxt3dClass", build<zStaticText>},
+    {"zGroupBox3dClass", build<zGroupBox>},
+};
+
+template <std::size_t N>
+void registerRows(const Row (&rows)[N]) {
+  static std::list<zControlType> owned;
+  for (const Row& row : rows) owned.emplace_back(row.name, row.builder);
+}
+
+}  // namespace
+
+zControlType::zControlType(const char* name, Builder builder) : name_(name), builder_(builder) {
+  zctd().push_back(this);
+}
+
+const zControlType* zControlType::find(const std::string& name) {
+  for (const zControlType* type : zctd()) {
+    if (type->typeName() == name) return type;
+  }
+  return nullptr;
+}
+
+void initIntPack() {
+  registerRows(packRows);
+}

@@ -1,0 +1,2 @@
+#pragma once
+const unsigned char* findImage(int id, int kind);
