@@ -8,6 +8,8 @@
 #include "atm/limits.h"
 #include "atm/pvc_records.h"
 
+struct IP1577XferBuffer;
+
 struct AtmIP1577 {
   std::int32_t Enabled = 0;
   std::int32_t Config = 0;  // 1: permanent circuits only, no ARP server
@@ -19,4 +21,7 @@ struct AtmIP1577 {
   macAddress mac = {};                  // from the driver
   char PvcConfFile[fileNameBytes] = "";
   std::vector<AtmRoutedPvc> pvcs;
+
+  // Takes what Setup edits, and nothing else.
+  AtmIP1577& operator=(const IP1577XferBuffer& buffer);
 };

@@ -13,6 +13,10 @@
 #include "atm/limits.h"
 #include "atm/pvc_records.h"
 
+struct LECXferBuffer;
+struct LECSXferBuffer;
+struct LESXferBuffer;
+
 // A LAN Emulation client.
 struct AtmLEC {
   std::int32_t Enabled = 0;
@@ -30,6 +34,9 @@ struct AtmLEC {
   std::int32_t passThrough = 0;  // goes round through the transfer buffer, as `address2` does
   atmAddress address2 = dfltAtmAddress;
   std::vector<AtmBridgedPvc> pvcs;
+
+  // Takes what Setup edits, and nothing else.
+  AtmLEC& operator=(const LECXferBuffer& buffer);
 };
 
 // A LAN Emulation server.
@@ -42,6 +49,9 @@ struct AtmLES {
   std::int32_t ElanNameStrict = 0;
   char ElanTbl[fileNameBytes] = "";  // the file of the permanent client mappings
   std::vector<esiSelector> clients;
+
+  // Takes what Setup edits, and nothing else.
+  AtmLES& operator=(const LESXferBuffer& buffer);
 };
 
 // The LAN Emulation configuration server.
@@ -51,4 +61,7 @@ struct AtmLECS {
   std::int32_t EtherMfs = 1;
   std::int32_t TRMfs = 1;
   atmAddress address = dfltAtmAddress;
+
+  // Takes what Setup edits, and nothing else.
+  AtmLECS& operator=(const LECSXferBuffer& buffer);
 };

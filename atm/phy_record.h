@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+struct PhyXferBuffer;
+
 struct AtmPhy {
   std::int32_t Framing = 0;  // 0 SONET, 1 SDH
   std::int32_t VPI = 0;
@@ -25,6 +27,9 @@ struct AtmPhy {
   std::string boardText1 = "-";  // shown in the adapter table
   std::string boardText2;
   std::int32_t InterruptNumber = -1;  // -1 detected by the driver
+
+  // Takes the edited values; of the configured ones only RLAutoSwitch.
+  AtmPhy& operator=(const PhyXferBuffer& buffer);
 
   void setLink(std::uint16_t state, std::int16_t active) {
     linkState = state;

@@ -2,9 +2,10 @@
 
 #include <cstring>
 
-char* AtmSig::GetNetworkPrefix() {
-  prefixText.fromHex(cfg.NetPrefix, networkPrefixBytes);
-  return prefixText.GetNetworkPrefix();
+char* AtmSig::GetNetworkPrefix() const {
+  atmAddress text = dfltAtmAddress;
+  text.fromHex(cfg.NetPrefix, networkPrefixBytes);
+  return text.GetNetworkPrefix();
 }
 
 void AtmSig::setNetPrefix(const unsigned char* prefix) {
