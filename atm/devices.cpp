@@ -1,0 +1,3 @@
+#include "atm/devices.h"
+
+AtmDevices atmDevices;
