@@ -29,6 +29,14 @@ struct ip_pvc {
 static_assert(sizeof(ip_pvc) == 56 && offsetof(ip_pvc, vcIndex) == 4 &&
               offsetof(ip_pvc, encapsulation) == 6);
 
+// A board's place in a redundant pair.
+struct rls_req {
+  std::int32_t primary;     // 1 primary, 0 backup
+  std::int32_t backup;      // adapter number of the backup, -1 none
+  std::int32_t autoSwitch;  // 1: the link returns by itself
+};
+static_assert(sizeof(rls_req) == 12 && offsetof(rls_req, autoSwitch) == 8);
+
 // The log's form: every byte in hexadecimal, three columns each, ten to a line.
 std::ostream& operator<<(std::ostream& os, const lecs_req& record);
 std::ostream& operator<<(std::ostream& os, const ip_pvc& record);

@@ -1,6 +1,8 @@
 // Control of a board's physical layer and of its place in a redundant pair.
 #pragma once
 
+#include <cstdint>
+
 #include "driver/control_records.h"
 #include "driver/request.h"
 
