@@ -131,11 +131,12 @@ int Deadline::millisecondsLeft() const {
 int openDriverSocket(const char* path, int oflag, const Deadline& deadline) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
-  if (std::strlen(path) >= sizeof address.sun_path) {
+  const std::size_t length = std::strlen(path);
+  if (length >= sizeof address.sun_path) {
     errno = ENAMETOOLONG;
     return -1;
   }
-  std::strcpy(address.sun_path, path);
+  std::memcpy(address.sun_path, path, length);
 
   const int socket = ::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
   if (socket < 0) return -1;
