@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <string>
 
-constexpr int maxAdapters = 8;
+#include "atm/limits.h"
+
+
 
 extern std::int32_t currentAdapter;             // the selected adapter, 0 to 7
 extern std::uint32_t MaintimerTime;             // period of the main timer, milliseconds

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iosfwd>
 
 // Boards present.
 struct board_state {
@@ -36,6 +37,9 @@ struct vc_tbl {
 };
 static_assert(sizeof(vc_tbl) == 20 && offsetof(vc_tbl, counterIn) == 12 &&
               offsetof(vc_tbl, counterOut) == 16);
+
+// The log's form: VCI and the two counters, on one line that the caller ends.
+std::ostream& operator<<(std::ostream& os, const vc_tbl& row);
 
 // AAL5 and ATM layer counters, 32-bit words that wrap.
 struct aal_stats {

@@ -9,7 +9,7 @@ zFoundResource zAppFindResource(int id, int kind) {
     case zResCursor:
     case zResBitmap:
     case zResIcon:
-      return {findImage(id, kind), id};
+      return {ziFindImage(id, kind), id};
     case zResDialog:
       return {ziFindDialog(id), id};
     case zResString:

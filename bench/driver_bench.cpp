@@ -1,0 +1,227 @@
+// What a request costs beyond the messages it needs: one frame, and a whole table in pages, each
+// beside bare round trips of the same sizes to an echoing process. LISIM names the simulated
+// driver to run; without it the one in the build folder is.
+
+#include <benchmark/benchmark.h>
+#include <sched.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "driver/queries.h"
+#include "driver/session.h"
+#include "platform/wire.h"
+#include "tests/support/scratch_directory.h"
+
+namespace {
+
+std::size_t allocations = 0;
+
+}  // namespace
+
+[[gnu::noinline]] void* operator new(std::size_t bytes) {
+  ++allocations;
+  if (void* block = std::malloc(bytes)) return block;
+  std::abort();
+}
+[[gnu::noinline]] void operator delete(void* block) noexcept {
+  std::free(block);
+}
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
+  std::free(block);
+}
+
+namespace {
+
+constexpr std::uint16_t tableRows = 900;
+constexpr int pageRows = formOf(Query::LecTable).pageRows;
+constexpr int pagesOfTable = (tableRows + pageRows - 1) / pageRows;
+constexpr std::size_t pageMessage =
+    sizeof(WireHead) + plainDataOffset + pageRows * sizeof(lec_tbl_t);
+constexpr std::size_t countMessage = sizeof(WireHead) + plainDataOffset;
+constexpr std::size_t frameMessage = sizeof(WireHead) + plainDataOffset + sizeof(board_state);
+
+// A process of the benchmark's own, which ends with it.
+class Child {
+ public:
+  explicit Child(const std::function<void()>& work) : pid_(fork()) {
+    if (pid_ != 0) return;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    work();
+    _exit(1);
+  }
+  ~Child() {
+    kill(pid_, SIGKILL);
+    waitpid(pid_, nullptr, 0);
+  }
+  Child(const Child&) = delete;
+  Child& operator=(const Child&) = delete;
+
+ private:
+  pid_t pid_;
+};
+
+void echo(int socket) {
+  char message[65536];
+  for (ssize_t got; (got = recv(socket, message, sizeof message, 0)) > 0;)
+    send(socket, message, static_cast<std::size_t>(got), MSG_NOSIGNAL);
+}
+
+// The least a driver can be: it counts tableRows rows in any table and serves them in pages.
+void answerFrame(req_param_t& head) {
+  head.Resp = 0;
+  if (head.Type == serviceNRows) head.NRow = tableRows;
+  if (head.Type != serviceTable) return;
+  head.NRow = static_cast<std::uint16_t>(std::clamp(tableRows + 1 - head.RowM, 0, pageRows));
+  head.RowM = static_cast<std::uint16_t>(head.RowM + head.NRow);
+}
+
+void serveTables(int listener) {
+  char message[sizeof(WireHead) + wireMaxBody];
+  for (int session; (session = accept(listener, nullptr, nullptr)) >= 0; close(session)) {
+    for (ssize_t got; (got = recv(session, message, sizeof message, 0)) > 0;) {
+      WireHead wire;
+      req_param_t head;
+      std::memcpy(&wire, message, sizeof wire);
+      std::memcpy(&head, message + sizeof wire, sizeof head);
+      wire.code = wire.limit = 0;
+      answerFrame(head);
+      std::memcpy(message, &wire, sizeof wire);
+      if (wire.kind == wireExchange) std::memcpy(message + sizeof wire, &head, sizeof head);
+      send(session, message, static_cast<std::size_t>(got), MSG_NOSIGNAL);
+    }
+  }
+}
+
+int listenOnNode() {
+  sockaddr_un address{AF_UNIX, "./li"};
+  const int listener = socket(AF_UNIX, SOCK_SEQPACKET, 0);
+  if (bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
+      listen(listener, 8) != 0) {
+    std::perror("./li");
+    std::exit(1);
+  }
+  return listener;
+}
+
+// Opens the device in the working directory, which its driver may still have to make.
+int openSession() {
+  int session = -1;
+  for (int attempt = 0; attempt < 100 && dai_open(0, 0, &session) != 0; ++attempt) usleep(20000);
+  return session;
+}
+
+int echoSocket = -1;
+int tableSession = -1;
+int simulatorSession = -1;
+
+// One frame of the board state's size, to the simulated driver or, without one, its stand-in.
+void frameToDriver(benchmark::State& state) {
+  const bool simulated = simulatorSession >= 0;
+  aalInfo query(simulated ? simulatorSession : tableSession, 0, 0);
+  query.prepareMsg(sizeof(board_state));
+  for (auto _ : state) {
+    if (query.daiRequest() != 0) state.SkipWithError("the driver refused the frame");
+  }
+  state.SetLabel(simulated ? "lisim" : "stand-in, lisim did not start");
+}
+BENCHMARK(frameToDriver);
+
+bool roundTrip(std::vector<char>& message, std::size_t bytes) {
+  return send(echoSocket, message.data(), bytes, MSG_NOSIGNAL) == static_cast<ssize_t>(bytes) &&
+         recv(echoSocket, message.data(), bytes, 0) == static_cast<ssize_t>(bytes);
+}
+
+void bareFrame(benchmark::State& state) {
+  std::vector<char> message(frameMessage);
+  for (auto _ : state) {
+    if (!roundTrip(message, frameMessage)) state.SkipWithError("no echo");
+  }
+}
+BENCHMARK(bareFrame);
+
+// A client's table of 900 connections, by an object that is kept and by a new one each time.
+void entireLecTable(benchmark::State& state) {
+  auto query = std::make_unique<lecInfo>(tableSession, 0, 0);
+  query->GetEntireTable();
+  const std::size_t before = allocations;
+  for (auto _ : state) {
+    if (state.range(0) != 0) query = std::make_unique<lecInfo>(tableSession, 0, 0);
+    if (query->GetEntireTable() == nullptr || query->header().NRow != tableRows)
+      state.SkipWithError("the table did not come whole");
+  }
+  state.counters["allocations"] = benchmark::Counter(static_cast<double>(allocations - before),
+                                                     benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(entireLecTable)->ArgName("new")->Arg(0)->Arg(1);
+
+void bareTableRoundTrips(benchmark::State& state) {
+  std::vector<char> message(pageMessage);
+  for (auto _ : state) {
+    bool ok = roundTrip(message, countMessage);
+    for (int page = 0; page < pagesOfTable; ++page) ok = roundTrip(message, pageMessage) && ok;
+    if (!ok) state.SkipWithError("no echo");
+  }
+}
+BENCHMARK(bareTableRoundTrips);
+
+// Both ends of an exchange take turns, so one processor does; it keeps the cost of waking another,
+// which differs by the moment, out of the figures.
+void stayOnOneProcessor() {
+  cpu_set_t one;
+  CPU_ZERO(&one);
+  CPU_SET(0, &one);
+  sched_setaffinity(0, sizeof one, &one);
+}
+
+std::string lisimPath() {
+  const char* path = std::getenv("LISIM");
+  return std::filesystem::absolute(path != nullptr ? path : ONDRELLE_BUILD_DIR "/lisim").string();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  const std::string lisim = lisimPath();
+  stayOnOneProcessor();
+
+  int ends[2];
+  if (socketpair(AF_UNIX, SOCK_SEQPACKET, 0, ends) != 0) return 1;
+  const Child echoing([&] { echo(ends[1]); });
+  close(ends[1]);
+  echoSocket = ends[0];
+
+  const ScratchDirectory tableDirectory;
+  const int listener = listenOnNode();
+  const Child serving([&] { serveTables(listener); });
+  tableSession = openSession();
+
+  const ScratchDirectory simulatorDirectory;
+  const Child simulating([&] {
+    execl(lisim.c_str(), "lisim", "--device", "./li", "--boards", "2", nullptr);
+    std::perror(lisim.c_str());
+  });
+  simulatorSession = openSession();
+  if (simulatorSession < 0)
+    std::fprintf(stderr, "%s did not start; a stand-in answers the frames\n", lisim.c_str());
+
+  benchmark::RunSpecifiedBenchmarks();
+  dai_close(0, simulatorSession);
+  dai_close(0, tableSession);
+  return 0;
+}

@@ -1,0 +1,65 @@
+#include "simulator/board.h"
+
+namespace lisim {
+
+namespace {
+
+struct AalCounter {
+  CounterName counter;
+  std::uint32_t aal_stats::*word;
+};
+
+constexpr AalCounter aalCounters[] = {
+    {cellsIn, &aal_stats::rxCells},         {cellsOut, &aal_stats::txCells},
+    {packetsIn, &aal_stats::rxPackets},     {packetsOut, &aal_stats::txPackets},
+    {invalidVcis, &aal_stats::invalidVcis}, {invalidVpis, &aal_stats::invalidVpis},
+    {droppedIn, &aal_stats::rxDropped},     {droppedOut, &aal_stats::txDropped},
+};
+
+constexpr std::uint32_t suni_stats::*alarmWords[alarmKinds] = {&suni_stats::los, &suni_stats::lof,
+                                                               &suni_stats::oof, &suni_stats::ferf,
+                                                               &suni_stats::ais, &suni_stats::lop};
+
+// QSAAL's and ILMI's well-known circuits, and where the others start.
+constexpr std::int16_t signallingVcis[] = {5, 16};
+constexpr std::size_t firstDataVci = 33;
+
+// So that the rows of one table do not all show one number.
+constexpr std::uint32_t rowSpread = 1000;
+
+}  // namespace
+
+aal_stats aalStatsOf(const Board& board, Milliseconds now, std::uint32_t seed) {
+  const Milliseconds time = board.traffic.at(now);
+  aal_stats stats{};
+  for (const AalCounter& entry : aalCounters)
+    stats.*entry.word = board.counters[entry.counter].value(time, seed);
+  stats.rxCellErrors[0] = board.counters[cellErrors].value(time, seed);
+  stats.rxFrameErrors[0] = board.counters[frameErrors].value(time, seed);
+  return stats;
+}
+
+suni_stats suniStatsOf(const Board& board) {
+  suni_stats stats{};
+  stats.medium = board.medium;
+  stats.answers = board.lineAnswers;
+  stats.linkUp = board.linkUp;
+  for (int kind = 0; kind < alarmKinds; ++kind)
+    stats.*alarmWords[kind] = board.alarms[static_cast<std::size_t>(kind)];
+  if (!board.linkUp) stats.los = 1;
+  return stats;
+}
+
+vc_tbl vcRowOf(const Board& board, std::size_t row, Milliseconds now, std::uint32_t seed) {
+  const Milliseconds time = board.traffic.at(now);
+  const std::uint32_t offset = seed == 0 ? 0 : draw(seed, row, vcIn) % rowSpread;
+  constexpr std::size_t fixed = std::size(signallingVcis);
+  vc_tbl entry{};
+  entry.vci =
+      row < fixed ? signallingVcis[row] : static_cast<std::int16_t>(firstDataVci + (row - fixed));
+  entry.counterIn = board.counters[vcIn].value(time, seed) + offset;
+  entry.counterOut = board.counters[vcOut].value(time, seed) + offset;
+  return entry;
+}
+
+}  // namespace lisim

@@ -1,0 +1,86 @@
+// One slot of the simulated host: the board in it, its line, its place in a redundant pair and
+// its counters.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "driver/board_records.h"
+#include "simulator/counter.h"
+
+namespace lisim {
+
+constexpr int boardSlots = 8;
+constexpr int noBoard = -1;
+
+// The table's read position is a 16-bit row number from 1, and stands behind the last row in the
+// end.
+constexpr std::uint32_t maxVcRows = 65534;
+
+enum class Presence { absent, present, silent };
+enum class Role { primary, backup };
+
+enum AlarmKind { alarmLos, alarmLof, alarmOof, alarmFerf, alarmAis, alarmLop, alarmKinds };
+
+enum CounterName {
+  cellsIn,
+  cellsOut,
+  packetsIn,
+  packetsOut,
+  cellErrors,
+  frameErrors,
+  invalidVcis,
+  invalidVpis,
+  droppedIn,
+  droppedOut,
+  vcIn,
+  vcOut,
+  counterNames
+};
+
+// The codes of the line interface's medium.
+enum Medium : std::uint32_t {
+  mediumUnknown = 0,
+  medium25 = 1,
+  mediumOc3MultiMode = 2,
+  mediumOc3SingleMode = 3,
+  medium155Utp = 4
+};
+
+struct Board {
+  Presence presence = Presence::absent;
+  std::array<std::uint8_t, 6> mac{};
+  std::uint32_t maxVc = 1024;
+
+  std::uint32_t medium = mediumOc3MultiMode;
+  std::uint32_t framing = 0;  // 0 SONET, 1 SDH
+  std::uint32_t vpi = 0;      // 0 to 255
+  bool lineAnswers = true;    // the line interface can be asked for its alarms
+  bool linkUp = true;
+  std::array<bool, alarmKinds> alarms{};
+
+  Role role = Role::primary;
+  int backup = noBoard;  // of a primary
+  bool autoSwitch = false;
+  int carrier = noBoard;                  // of a primary: the board that carries its link
+  std::optional<Milliseconds> returnDue;  // when auto-switch gives the link back
+  std::optional<rls_status> forcedStatus;
+
+  std::uint32_t vcRows = 0;  // 0 to maxVcRows
+  std::array<Counter, counterNames> counters{};
+  TrafficClock traffic;
+
+  // There, answering, and its line up.
+  bool well() const { return presence == Presence::present && linkUp; }
+};
+
+// The answers to the queries of one board, as of `now`.
+aal_stats aalStatsOf(const Board& board, Milliseconds now, std::uint32_t seed);
+suni_stats suniStatsOf(const Board& board);
+
+// Row `row` of the board's virtual-circuit table, from 0: the two signalling circuits first.
+vc_tbl vcRowOf(const Board& board, std::size_t row, Milliseconds now, std::uint32_t seed);
+
+}  // namespace lisim

@@ -1,0 +1,83 @@
+// One frame on its way through the driver, and the table entry that serves it.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <span>
+
+#include "driver/frame.h"
+#include "simulator/answer_code.h"
+#include "simulator/simulator.h"
+
+namespace lisim {
+
+// On primSigControl: switches the driver's own debug trace.
+constexpr std::uint16_t sigDebugTrace = 3;
+
+// A frame taken apart, with what a handler needs to serve it.
+struct Request {
+  Simulator& simulator;
+  Milliseconds now;
+  req_param_t head;                 // written back into the frame after serving
+  std::span<std::uint8_t> payload;  // what follows the head, up to Size
+  std::size_t inputBytes;           // of the payload that are input
+  std::uint16_t rowLimit;           // a fault can hold table reads short
+  Board& board() { return simulator.adapters.board(head.Link); }
+
+  // Puts a record at `offset` of the payload. The dispatcher has made sure of the room.
+  template <class Record>
+  void reply(const Record& record, std::size_t offset = 0) {
+    std::memcpy(payload.data() + offset, &record, sizeof record);
+  }
+
+  // Takes one from the front of the payload; the dispatcher has made sure of the input.
+  template <class Record>
+  Record input() const {
+    Record record;
+    std::memcpy(&record, payload.data(), sizeof record);
+    return record;
+  }
+};
+
+// Serves a table read: rows from RowM on, as many as were asked for, are left and fit. `rowAt` is
+// called with a row's index from 0 and gives the record. RowM moves on by the rows delivered, so
+// that the frame sent back as it is reads the next page.
+template <class RowAt>
+Answer deliverRows(Request& request, std::size_t rows, RowAt rowAt) {
+  using Record = decltype(rowAt(std::size_t{0}));
+  req_param_t& head = request.head;
+  if (head.RowM == 0) return Answer::badRow;
+  const std::size_t first = head.RowM - 1U;
+  const std::size_t left = first < rows ? rows - first : 0;
+  const std::size_t room = request.payload.size() / sizeof(Record);
+  const std::size_t count =
+      std::min({left, room, std::size_t{head.NRow}, std::size_t{request.rowLimit}});
+  for (std::size_t i = 0; i < count; ++i) request.reply(rowAt(first + i), i * sizeof(Record));
+  head.NRow = static_cast<std::uint16_t>(count);
+  head.RowM = static_cast<std::uint16_t>(head.RowM + count);
+  return Answer::done;
+}
+
+enum class OperationKind { plain, rowCount, table };
+
+// Which board a request is about: none, or the one in Link.
+enum class Target { driver, board };
+
+// One entry of a dispatch table.
+struct Operation {
+  std::uint16_t primitive;
+  std::uint16_t type;
+  Target target;
+  OperationKind kind;
+  std::uint16_t inputBytes;  // of payload that must be input
+  std::uint16_t replyBytes;  // of payload that must have room
+  Answer (*serve)(Request&);
+};
+
+// The tables, one per family of services.
+std::span<const Operation> boardOperations();
+std::span<const Operation> serviceOperations();
+
+}  // namespace lisim
