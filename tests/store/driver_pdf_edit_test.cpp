@@ -204,7 +204,7 @@ TEST_F(DriverPdf, ListsOfCircuits) {
         "[PVC\n\tVC    =100\t#VC index\n# Rate =9\n\nx\ny\nRate=9\n[PVC\nVC=5");
   write("ips", "[PVC\nAddr=10.0.0.1\nVC=9\nRate=-3\nEncap=1\nBcast=0\n]\n");
   read(
-      "[Adapter0\n[LEC0\nPvcConfFile = pvcs\n]\n[LEC1\nPvcConfFile = none\n]\n"
+      "[Adapter0\n[LEC0\nPvcConfFile = pvcs\n]\n[LEC1\nPvcConfFile = /dev/zero\n]\n"
       "[IP15770\nPvcConfFile = ips\n]\n]\n");
   const auto& pvcs = atmDevices.lec[0][0].pvcs;
   const macAddress mac = {{0, 0, 0x77, 0x88, 0x99, 0xaa}};

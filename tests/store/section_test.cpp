@@ -220,6 +220,9 @@ TEST_F(Section, HandlesTellWhetherTheyLive) {
   EXPECT_STREQ(handle->section, "/A");
   EXPECT_STREQ(handle->data, "K = 1\n]\n");
   EXPECT_EQ(handle->nest, 1);
+  const std::string dump = printed([&] { SectDump(handle.get()); });
+  EXPECT_NE(dump.find("cookie  deadbeef\n"), std::string::npos) << dump;
+  EXPECT_NE(dump.find("section /A\n"), std::string::npos) << dump;
   EXPECT_EQ(std::strspn(SectDmsg, "="), 74u);
 }
 
