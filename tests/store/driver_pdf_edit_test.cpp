@@ -199,9 +199,9 @@ TEST_F(DriverPdf, TextsAndAddresses) {
 }
 
 TEST_F(DriverPdf, ListsOfCircuits) {
-  write("pvcs",
-        "junk\n[PVC more\n\tRate=7\nAddr =0000778899aa # x\nVC=-1\nBcast=1#\nEncap=1\n]\n"
-        "[PVC\n\tVC    =100\t#VC index\n# Rate =9\n\nx\ny\nRate=9\n[PVC\nVC=5");
+  write("pvcs", std::string(100, 'j') +
+                    "\n[PVC more\n\tRate=7\nAddr =0000778899aa # x\nVC=-1\nBcast=1#\nEncap=1\n]\n"
+                    "[PVC\n\tVC    =100\t#VC index\n# Rate =9\n\nx\ny\nRate=9\n[PVC\nVC=5");
   write("ips", "[PVC\nAddr=10.0.0.1\nVC=9\nRate=-3\nEncap=1\nBcast=0\n]\n");
   read(
       "[Adapter0\n[LEC0\nPvcConfFile = pvcs\n]\n[LEC1\nPvcConfFile = /dev/zero\n]\n"
