@@ -18,6 +18,9 @@ class zPane : public zChildWin {
   Widget childArea() const override;
 
  protected:
+  // The same, and leaves it to the derived class to take the husk's state and bury it.
+  zPane(ziAdopt, zWindow* parent, int id);
+
   // Exposed parts are gathered into one rectangle, drawn on an off-screen image and copied, so that
   // nothing flickers.
   void paint(const zRect& area);

@@ -6,6 +6,7 @@
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
+#include "framework/table/table.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ struct Row {
 constexpr Row packRows[] = {
     {"zStatTxt3dClass", build<zStaticText>},
     {"zGroupBox3dClass", build<zGroupBox>},
+    {"zTable", build<zTable>},
 };
 
 template <std::size_t N>
