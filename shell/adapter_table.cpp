@@ -69,8 +69,8 @@ void MainDlgAdapterInfoTBL::setupAttributes() {
   const zTableRegion visible{{1, 1}, {visibleColumns, maxAdapters}};
   model()->addAttr(std::make_unique<zTableReadOnlyAttr>(visible));
   model()->addAttr(std::make_unique<zTableTextAlignmentAttr>(zAlignCenterDown, visible));
-  model()->addAttr(std::make_unique<zTableTextColorAttr>(
-      zBlack, zTableRegion{{1, 1}, {columns, maxAdapters}}));
+  model()->addAttr(
+      std::make_unique<zTableTextColorAttr>(zBlack, zTableRegion{{1, 1}, {columns, maxAdapters}}));
 }
 
 void MainDlgAdapterInfoTBL::replaceAttr(zTableAttr*& slot, std::unique_ptr<zTableAttr> attr) {
@@ -83,8 +83,7 @@ void MainDlgAdapterInfoTBL::SelectRow(unsigned long row) {
   if (selectedRow_) {
     SetCellText({columnAdapter, selectedRow_}, std::to_string(selectedRow_).c_str());
   }
-  replaceAttr(selectionFont_,
-              std::make_unique<zTableFontAttr>(boldFont_, rowRegion(row, columns)));
+  replaceAttr(selectionFont_, std::make_unique<zTableFontAttr>(boldFont_, rowRegion(row, columns)));
   char mark[32];
   std::snprintf(mark, sizeof mark, "[  %d  ]", static_cast<int>(row));
   SetCellText({columnAdapter, row}, mark);
@@ -121,8 +120,8 @@ void MainDlgAdapterInfoTBL::updateRow(int adapter) {
   SetRowBGColor(row, status.color);
   SetCellText({columnType, row}, status.type);
   SetCellText({columnDataLink, row}, status.dataLink.c_str());
-  odlog << "Setting Status for Adapt#" << row << " to '" << status.status << "' status == "
-        << status.sentence << std::endl;
+  odlog << "Setting Status for Adapt#" << row << " to '" << status.status
+        << "' status == " << status.sentence << std::endl;
   SetCellText({columnStatus, row}, status.status);
   atmDevices.phy[adapter].boardText2 = status.sentence;
   SetCellText({columnSwitch, row}, status.switchConfig);

@@ -51,32 +51,41 @@ void zPane::draw(zDrawEvt* event) {
 
 void zPane::exposeCB(Widget, XtPointer link, XtPointer callData) {
   auto* pane = static_cast<zPane*>(static_cast<ziControlCB*>(link)->window);
-  const XEvent* event = static_cast<const XmDrawingAreaCallbackStruct*>(callData)->event;
-  if (!event || event->type != Expose) return;
-  const XExposeEvent& e = event->xexpose;
-  pane->exposed_ = pane->exposed_.unionWith({zPoint{e.x, e.y}, {e.width, e.height}});
-  if (e.count > 0) return;
-  const zRect area = std::exchange(pane->exposed_, zRect());
-  pane->paint(area);
+  const zRect area = pane->exposure_.gather(callData);
+  if (!area.isEmpty()) pane->paint(area);
 }
 
 void zPane::paint(const zRect& area) {
+  ziPaintOffscreen(this, area, [this](zDrawEvt* event) { draw(event); });
+}
+
+zRect ziExposure::gather(XtPointer callData) {
+  const XEvent* event = static_cast<const XmDrawingAreaCallbackStruct*>(callData)->event;
+  if (!event || event->type != Expose) return {};
+  const XExposeEvent& e = event->xexpose;
+  exposed_ = exposed_.unionWith({zPoint{e.x, e.y}, {e.width, e.height}});
+  return e.count > 0 ? zRect() : std::exchange(exposed_, zRect());
+}
+
+void ziPaintOffscreen(zWindow* window, const zRect& area,
+                      const std::function<void(zDrawEvt*)>& draw) {
+  if (!window->drawnWidget() || !XtIsRealized(window->drawnWidget())) return;
   zRect inside;
-  getInterior(inside);
+  window->getInterior(inside);
   const zRect seen = area.intersection(inside);
   if (seen.isEmpty()) return;
   zPixmapDisplay image({inside.width(), inside.height()});
-  image.setFont(getFont());
+  image.setFont(window->getFont());
   image.lock();
   image.setClip(seen);
   zDrawEvt event;
   event.area = seen;
   event.display = &image;
-  event.window = this;
+  event.window = window;
   draw(&event);
   image.unlock();
-  zWinDisplay window(this);
-  window.lock();
-  window.copy(image.drawable(), seen, seen.pos());
-  window.unlock();
+  zWinDisplay target(window);
+  target.lock();
+  target.copy(image.drawable(), seen, seen.pos());
+  target.unlock();
 }

@@ -1,8 +1,26 @@
 // Windows that draw themselves on a drawing area.
 #pragma once
 
+#include <functional>
+
 #include "framework/core/child_window.h"
 #include "framework/drawing/display.h"
+
+// Paints the part `area` of a window's drawing area: `draw` fills an off-screen image, which is
+// then copied, so that nothing flickers. Does nothing before the window is realized.
+void ziPaintOffscreen(zWindow* window, const zRect& area,
+                      const std::function<void(zDrawEvt*)>& draw);
+
+// Gathers the exposed parts of a drawing area into one rectangle.
+class ziExposure {
+ public:
+  // To be given the call data of each expose callback. The rectangle around all parts with the last
+  // of a series, and an empty one before that.
+  zRect gather(XtPointer callData);
+
+ private:
+  zRect exposed_;
+};
 
 class zPane : public zChildWin {
  public:
@@ -21,12 +39,10 @@ class zPane : public zChildWin {
   // The same, and leaves it to the derived class to take the husk's state and bury it.
   zPane(ziAdopt, zWindow* parent, int id);
 
-  // Exposed parts are gathered into one rectangle, drawn on an off-screen image and copied, so that
-  // nothing flickers.
   void paint(const zRect& area);
 
  private:
   static void exposeCB(Widget widget, XtPointer link, XtPointer callData);
 
-  zRect exposed_;
+  ziExposure exposure_;
 };

@@ -113,7 +113,11 @@ void zApp::connect(int argc, char** argv) {
   int count = argc;
   display_ = XtOpenDisplay(context_, nullptr, nullptr, className_.c_str(), nullptr, 0, &count,
                            arguments.data());
-  if (display_) return;
+  if (display_) {
+    // A key that is held down repeats its press, without releases in between.
+    XkbSetDetectableAutoRepeat(display_, True, nullptr);
+    return;
+  }
   std::fprintf(stderr, "Error:  unable to open display \"%s\".\n",
                XDisplayName(displayArgument(argc, argv)));
   std::exit(1);

@@ -1,20 +1,28 @@
 #include "framework/core/notify.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "framework/core/app.h"
 #include "framework/core/window.h"
 
-zWindowWatch* zWindowWatch::first_ = nullptr;
+namespace {
 
-zWindowWatch::zWindowWatch(zWindow* window) : window_(window), next_(first_) {
-  first_ = this;
+// Most of them stand on the stack, so the one that goes is nearly always the last.
+std::vector<zWindowWatch*> watches;
+
+}  // namespace
+
+zWindowWatch::zWindowWatch(zWindow* window) : window_(window) {
+  watches.push_back(this);
 }
 
 zWindowWatch::~zWindowWatch() {
-  first_ = next_;
+  watches.erase(std::prev(std::find(watches.rbegin(), watches.rend(), this).base()));
 }
 
 void zWindowWatch::windowDeleted(const zWindow* window) {
-  for (zWindowWatch* w = first_; w; w = w->next_) {
+  for (zWindowWatch* w : watches) {
     if (w->window_ == window) w->window_ = nullptr;
   }
 }

@@ -6,8 +6,8 @@
 
 #include "framework/core/event.h"
 
-// Knows, for as long as it stands on the stack, whether a window still exists. Code that calls
-// handlers asks it afterwards, since a handler may delete the very window it was called for.
+// Knows, for as long as it lives itself, whether a window still exists. Code that calls handlers
+// asks it afterwards, since a handler may delete the very window it was called for.
 class zWindowWatch {
  public:
   explicit zWindowWatch(zWindow* window);
@@ -22,8 +22,6 @@ class zWindowWatch {
 
  private:
   zWindow* window_;
-  zWindowWatch* next_;
-  static zWindowWatch* first_;
 };
 
 // One handler in a window's or the application's list: for a message, and for parm1 within a range

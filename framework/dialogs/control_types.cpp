@@ -3,6 +3,7 @@
 #include <list>
 #include <memory>
 
+#include "framework/controls/bitmap_button.h"
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
@@ -31,6 +32,7 @@ struct Row {
 constexpr Row packRows[] = {
     {"zStatTxt3dClass", build<zStaticText>},
     {"zGroupBox3dClass", build<zGroupBox>},
+    {"zBmpBtnClass", build<zBitmapButton>},
     {"zTable", build<zTable>},
 };
 

@@ -33,6 +33,8 @@ class zBitmap {
  public:
   // From the bitmap resource `id`; without one the bitmap is empty.
   explicit zBitmap(const zResId& id);
+  // Takes a pixmap as deep as the screen.
+  zBitmap(Pixmap pixmap, const zDimension& size) : size_(size), pixmap_(pixmap) {}
   ~zBitmap();
   zBitmap(const zBitmap&) = delete;
   zBitmap& operator=(const zBitmap&) = delete;

@@ -119,5 +119,11 @@ zPixmapDisplay::zPixmapDisplay(const zDimension& size) : size_(size) {
 }
 
 zPixmapDisplay::~zPixmapDisplay() {
-  XFreePixmap(app->display(), drawable());
+  if (drawable()) XFreePixmap(app->display(), drawable());
+}
+
+Pixmap zPixmapDisplay::release() {
+  const Pixmap pixmap = drawable();
+  setDrawable(0);
+  return pixmap;
 }

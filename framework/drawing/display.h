@@ -77,6 +77,8 @@ class zPixmapDisplay : public zDisplay {
   explicit zPixmapDisplay(const zDimension& size);
   ~zPixmapDisplay() override;
   const zDimension& size() const { return size_; }
+  // Gives the pixmap away; nothing can be drawn any more.
+  Pixmap release();
 
  private:
   zDimension size_;
