@@ -221,7 +221,7 @@ void zApp::dropHandler(const zEventHandler& handler, unsigned message) {
 
 void zApp::go() {
   XtAppSetWarningHandler(context_, zAppErrorHandler);
-  XtAppSetErrorHandler(context_, zAppErrorHandler);
+  XtAppSetErrorHandler(context_, zAppFatalHandler);
   XSetErrorHandler(zAppXlibErrorHandler);
   while (zAppKeepRunning) XtAppProcessEvent(context_, XtIMAll);
 }

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "framework/core/app.h"
@@ -81,4 +82,9 @@ int zAppXlibErrorHandler(Display* display, XErrorEvent* event) {
 
 void zAppErrorHandler(char* message) {
   debug("%s", message);
+}
+
+void zAppFatalHandler(char* message) {
+  zAppErrorHandler(message);
+  std::exit(1);
 }
