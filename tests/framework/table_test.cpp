@@ -22,8 +22,22 @@ constexpr int labelHeight = 25;
 constexpr int rowsSeen = 6;
 constexpr zColor red{255, 0, 0};
 
+// Counts the notifications of a table.
+struct Listener : zEvH {
+  int activeChanged() {
+    ++activeChanges;
+    return 0;
+  }
+  int selectionChanged() {
+    ++selectionChanges;
+    return 0;
+  }
+  int activeChanges = 0;
+  int selectionChanges = 0;
+};
+
 // A table of 3 columns in room for 6 rows and all columns, adopted as a dialog does it.
-class TableTest : public testing::Test, public zEvH {
+class TableTest : public testing::Test {
  protected:
   explicit TableTest(unsigned long rows = 4) : model(3, rows) {}
 
@@ -40,18 +54,9 @@ class TableTest : public testing::Test, public zEvH {
     table->setLabelSize({0, labelHeight});
     table->setColWidth(1, 3, colWidth);
     table->setRowHeight(1, 100, rowHeight);
-    table->setNotifyActiveCellChange(this, &TableTest::activeChanged);
-    table->setNotifySelChange(this, &TableTest::selectionChanged);
+    table->setNotifyActiveCellChange(&heard, &Listener::activeChanged);
+    table->setNotifySelChange(&heard, &Listener::selectionChanged);
     ASSERT_TRUE(x_driver::show(dialog));
-  }
-
-  int activeChanged() {
-    ++activeChanges;
-    return 0;
-  }
-  int selectionChanged() {
-    ++selectionChanges;
-    return 0;
   }
 
   static zPoint middle(unsigned long col, unsigned long rowSeen) {
@@ -65,8 +70,7 @@ class TableTest : public testing::Test, public zEvH {
   zWindow* generic = nullptr;
   Widget widget = nullptr;
   zTable* table = nullptr;
-  int activeChanges = 0;
-  int selectionChanges = 0;
+  Listener heard;
 };
 
 class LongTableTest : public TableTest {
@@ -79,7 +83,7 @@ TEST_F(TableTest, AnAdoptedTableWorksOnTheGenericOnesWidgets) {
   EXPECT_EQ(dialog.get(tableId), table);
   ASSERT_TRUE(x_driver::giveFocus(*table));
   x_driver::key(XK_Down);
-  EXPECT_EQ(activeChanges, 1);  // once, although the generic table listened before
+  EXPECT_EQ(heard.activeChanges, 1);  // once, although the generic table listened before
   zTable missing(&dialog, 999, &model);
   missing.setActiveCell({2, 2});
   model.textToCell({1, 1}, "x");
@@ -98,13 +102,13 @@ TEST_F(LongTableTest, KeysMoveTheActiveCellWithinTheTable) {
                {XK_Home, {1, 1}}};
   for (const auto& step : steps) {
     const zTableLoc from = table->getActiveCell();
-    activeChanges = 0;
+    heard.activeChanges = 0;
     x_driver::key(step.key);
     EXPECT_EQ(table->getActiveCell(), step.to) << XKeysymToString(step.key);
-    EXPECT_EQ(activeChanges, from == step.to ? 0 : 1) << XKeysymToString(step.key);
+    EXPECT_EQ(heard.activeChanges, from == step.to ? 0 : 1) << XKeysymToString(step.key);
   }
   table->setActiveMoveDirection(zTMoveRight);
-  for (const KeySym lock : {XK_Num_Lock, XK_Caps_Lock}) {
+  for (const KeySym lock : {KeySym{XK_Num_Lock}, KeySym{XK_Caps_Lock}}) {
     x_driver::key(lock);
     x_driver::key(XK_Return);
     x_driver::key(lock);
@@ -115,15 +119,15 @@ TEST_F(LongTableTest, KeysMoveTheActiveCellWithinTheTable) {
 TEST_F(TableTest, AClickPicksACellAndTakesTheFocus) {
   x_driver::click(*table, middle(2, 3));
   EXPECT_EQ(table->getActiveCell(), zTableLoc(2, 3));
-  EXPECT_EQ(activeChanges, 1);
-  EXPECT_EQ(selectionChanges, 1);
+  EXPECT_EQ(heard.activeChanges, 1);
+  EXPECT_EQ(heard.selectionChanges, 1);
   EXPECT_TRUE(x_driver::waitUntil([&] { return x_driver::hasFocus(*table); }));
   for (const zPoint outside : {middle(4, 1), middle(1, 5), middle(2, 0)}) {
     x_driver::click(*table, outside);
   }
-  EXPECT_EQ(activeChanges, 1);
+  EXPECT_EQ(heard.activeChanges, 1);
   table->setActiveCell({2, 3});  // tells even of the same cell
-  EXPECT_EQ(activeChanges, 2);
+  EXPECT_EQ(heard.activeChanges, 2);
   for (const zTableLoc& refused : {zTableLoc(0, 1), zTableLoc(1, 0), zTableLoc(4, 1)}) {
     table->setActiveCell(refused);
   }
@@ -136,7 +140,7 @@ TEST_F(TableTest, DragsSelectOnlyWhereThatIsAllowed) {
   table->getSelection(selection);
   EXPECT_EQ(selection, zTableRegion(zTableLoc(1, 1)));
   x_driver::drag(*table, middle(1, 0), middle(2, 0));
-  EXPECT_EQ(selectionChanges, 1);
+  EXPECT_EQ(heard.selectionChanges, 1);
   table->enableMultiSelect(1);
   table->enableLabelSelect(1);
   table->enableMultiLabelSelect(1);
@@ -179,10 +183,10 @@ TEST_F(LongTableTest, ScrollsByWheelByBarAndToTheActiveCell) {
 
 TEST_F(TableTest, ShrinkingTakesTheActiveCellAlong) {
   table->setActiveCell({3, 4});
-  activeChanges = 0;
+  heard.activeChanges = 0;
   model.setDimension(3, 2);
   EXPECT_EQ(table->getActiveCell(), zTableLoc(3, 2));
-  EXPECT_EQ(activeChanges, 1);
+  EXPECT_EQ(heard.activeChanges, 1);
   model.setDimension(3, 0);
   table->setActiveCell({1, 1});
   EXPECT_EQ(table->getActiveCell(), zTableLoc(1, 1));
