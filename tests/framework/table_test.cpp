@@ -5,6 +5,7 @@
 
 #include <X11/keysym.h>
 
+#include "framework/controls/button.h"
 #include "framework/core/app.h"
 #include "framework/dialogs/control_types.h"
 #include "framework/dialogs/dialog_frame.h"
@@ -32,6 +33,11 @@ struct Listener : zEvH {
     ++selectionChanges;
     return 0;
   }
+  int clicked(zNotifyEvt*) {
+    ++clicks;
+    return 0;
+  }
+  int clicks = 0;
   int activeChanges = 0;
   int selectionChanges = 0;
 };
@@ -132,6 +138,25 @@ TEST_F(TableTest, AClickPicksACellAndTakesTheFocus) {
     table->setActiveCell(refused);
   }
   EXPECT_EQ(table->getActiveCell(), zTableLoc(2, 3));
+}
+
+TEST_F(TableTest, TabPassesThroughAndReturnPressesNoButton) {
+  zButton other(&dialog, new zSizer(10, 190, 80, 30, nullptr), childStyle, "Other", 1,
+                zButton::defaultPush);
+  other.create();
+  other.show(1);
+  other.setNotifyClicked(&heard, &Listener::clicked);
+  ASSERT_TRUE(x_driver::giveFocus(*table));
+  x_driver::key(XK_Return);
+  EXPECT_EQ(heard.clicks, 0);
+  x_driver::key(XK_Tab);
+  EXPECT_TRUE(x_driver::waitUntil([&] { return x_driver::hasFocus(other); }));
+  x_driver::key(XK_Tab, {XK_Shift_L});
+  EXPECT_TRUE(x_driver::waitUntil([&] { return x_driver::hasFocus(*table); }));
+  table->disable();
+  x_driver::key(XK_Down);
+  x_driver::click(*table, middle(2, 3));
+  EXPECT_EQ(table->getActiveCell(), zTableLoc(1, 2));
 }
 
 TEST_F(TableTest, DragsSelectOnlyWhereThatIsAllowed) {
