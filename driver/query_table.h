@@ -2,15 +2,15 @@
 // how long its answer is.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <iterator>
 
 #include "driver/board_records.h"
 #include "driver/frame.h"
 #include "driver/query_types.h"
 #include "driver/service_records.h"
 
-enum class Query {
+enum class Query : std::uint16_t {
   BoardState,
   BoardMacAddress,
   AalStats,

@@ -24,6 +24,10 @@ struct ReplyMessage {
 };
 constexpr std::size_t replyCapacity = offsetof(ReplyMessage, body) + wireMaxBody;
 
+int secondsOf(int limit) {
+  return limit == 0 ? defaultLimitSeconds : limit;
+}
+
 // The driver has gone. Shutting the socket down makes every later send fail at once.
 int hangUp(int socket) {
   ::shutdown(socket, SHUT_RDWR);
@@ -57,14 +61,18 @@ int sendRequest(int socket, WireHead& head, std::span<std::uint8_t> body,
 }
 
 // Takes the next message, whatever it is; `bytes` becomes its length. Returns 0 or an error number.
-int receiveMessage(int socket, ReplyMessage& reply, std::size_t& bytes, const Deadline& deadline) {
+int receiveMessage(int socket, ReplyMessage& reply, std::size_t& bytes, const Deadline& deadline,
+                   Wait wait) {
   iovec room{&reply, replyCapacity};
   msghdr message{};
   message.msg_iov = &room;
   message.msg_iovlen = 1;
-  for (;;) {
-    if (const int error = waitFor(socket, POLLIN, deadline)) return error;
-    const ssize_t received = ::recvmsg(socket, &message, MSG_DONTWAIT);
+  for (;; wait = Wait::byDeadline) {
+    if (wait == Wait::byDeadline) {
+      if (const int error = waitFor(socket, POLLIN, deadline)) return error;
+    }
+    const int flags = wait == Wait::byDeadline ? MSG_DONTWAIT : 0;
+    const ssize_t received = ::recvmsg(socket, &message, flags);
     if (received > 0) {
       bytes = static_cast<std::size_t>(received);
       return (message.msg_flags & MSG_TRUNC) != 0 ? EPROTO : 0;
@@ -81,11 +89,12 @@ bool isWellFormed(const ReplyMessage& reply, std::size_t bytes, std::uint32_t ki
 
 // Waits for the reply to `request`, dropping the late ones to requests given up before it.
 int awaitReply(int socket, const WireHead& request, std::span<std::uint8_t> frame,
-               const Deadline& deadline) {
+               const Deadline& deadline, Wait wait) {
   ReplyMessage reply;
   do {
     std::size_t bytes = 0;
-    if (const int error = receiveMessage(socket, reply, bytes, deadline)) return error;
+    if (const int error = receiveMessage(socket, reply, bytes, deadline, wait)) return error;
+    wait = Wait::byDeadline;
     if (!isWellFormed(reply, bytes, request.kind)) return EPROTO;
   } while (reply.head.serial != request.serial);
   std::copy_n(reply.body, std::min<std::size_t>(reply.head.length, frame.size()), frame.data());
@@ -109,14 +118,15 @@ int connectBy(int socket, const sockaddr_un& address, const Deadline& deadline) 
 int openSession(int socket, const sockaddr_un& address, int oflag, const Deadline& deadline) {
   if (const int error = connectBy(socket, address, deadline)) return error;
   const WireHead request{wireOpen, 0, static_cast<std::uint32_t>(oflag), 0, 0};
-  return exchangeOnSocket(socket, request, {}, deadline);
+  const int error = exchangeOnSocket(socket, request, {}, deadline, Wait::byDeadline);
+  setReceiveLimit(socket, 0);
+  return error;
 }
 
 }  // namespace
 
 Deadline::Deadline(int seconds)
-    : endless_(seconds == noLimit),
-      end_(Clock::now() + std::chrono::seconds(seconds == 0 ? defaultLimitSeconds : seconds)) {}
+    : endless_(seconds == noLimit), end_(Clock::now() + std::chrono::seconds(secondsOf(seconds))) {}
 
 bool Deadline::passed() const {
   return !endless_ && Clock::now() >= end_;
@@ -128,14 +138,20 @@ int Deadline::millisecondsLeft() const {
   return static_cast<int>(std::clamp<long long>(left, 0, INT_MAX));
 }
 
+void setReceiveLimit(int socket, int seconds) {
+  const timeval limit{seconds == noLimit ? 0 : secondsOf(seconds), 0};
+  ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+}
+
 int openDriverSocket(const char* path, int oflag, const Deadline& deadline) {
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
-  if (std::strlen(path) >= sizeof address.sun_path) {
+  const std::size_t length = std::strlen(path);
+  if (length >= sizeof address.sun_path) {
     errno = ENAMETOOLONG;
     return -1;
   }
-  std::strcpy(address.sun_path, path);
+  std::memcpy(address.sun_path, path, length);
 
   const int socket = ::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
   if (socket < 0) return -1;
@@ -148,7 +164,7 @@ int openDriverSocket(const char* path, int oflag, const Deadline& deadline) {
 }
 
 int exchangeOnSocket(int socket, WireHead request, std::span<std::uint8_t> frame,
-                     const Deadline& deadline) {
+                     const Deadline& deadline, Wait wait) {
   if (const int error = sendRequest(socket, request, frame, deadline)) return error;
-  return awaitReply(socket, request, frame, deadline);
+  return awaitReply(socket, request, frame, deadline, wait);
 }

@@ -34,8 +34,16 @@ class Deadline {
 // or ENXIO when nobody is there, ETIME when nobody answered by the deadline.
 int openDriverSocket(const char* path, int oflag, const Deadline& deadline);
 
+// Sets how long a receive waits on the socket; `seconds` as an exchange's limit is given. A new
+// session has the default.
+void setReceiveLimit(int socket, int seconds);
+
+// What bounds the wait for a reply: the limit that the socket has, with which one call both waits
+// and receives, or the deadline alone.
+enum class Wait { bySocket, byDeadline };
+
 // Sends `request` with the whole of `frame` as its body and waits for the reply, whose body comes
 // to stand over the front of `frame`. Returns 0, the error number of the reply, or what befell the
 // exchange: ETIME, EPROTO, or ENXIO once the driver has gone, then and ever after.
 int exchangeOnSocket(int socket, WireHead request, std::span<std::uint8_t> frame,
-                     const Deadline& deadline);
+                     const Deadline& deadline, Wait wait);

@@ -44,11 +44,15 @@ int nodeExchange(int, strioctl*) {
 }
 #endif
 
-// The sessions on sockets, by descriptor: the serial of each one's latest exchange. That a driver
-// has hung up is kept by the socket itself.
-std::unordered_map<int, std::uint32_t>& serials() {
-  static std::unordered_map<int, std::uint32_t> bySession;
-  return bySession;
+// What is kept of a session on a socket. That its driver has hung up the socket itself knows.
+struct Session {
+  std::uint32_t serial = 0;  // of the latest exchange
+  int limit = 0;             // the receive limit that the socket has
+};
+
+std::unordered_map<int, Session>& sessions() {
+  static std::unordered_map<int, Session> byDescriptor;
+  return byDescriptor;
 }
 
 bool isSound(int request, const strioctl* exchange) {
@@ -57,13 +61,18 @@ bool isSound(int request, const strioctl* exchange) {
          (exchange->ic_dp != nullptr || exchange->ic_len == 0);
 }
 
-int exchangeFrame(int socket, std::uint32_t serial, const strioctl& exchange) {
+int exchangeFrame(int socket, Session& session, const strioctl& exchange) {
+  if (session.limit != exchange.ic_timout) {
+    session.limit = exchange.ic_timout;
+    setReceiveLimit(socket, session.limit);
+  }
   const auto length = static_cast<std::uint32_t>(exchange.ic_len);
-  const WireHead request{wireExchange, serial, static_cast<std::uint32_t>(exchange.ic_cmd),
+  const WireHead request{wireExchange, ++session.serial,
+                         static_cast<std::uint32_t>(exchange.ic_cmd),
                          static_cast<std::uint32_t>(exchange.ic_timout), length};
   return exchangeOnSocket(socket, request,
                           {reinterpret_cast<std::uint8_t*>(exchange.ic_dp), length},
-                          Deadline(exchange.ic_timout));
+                          Deadline(exchange.ic_timout), Wait::bySocket);
 }
 
 }  // namespace
@@ -71,21 +80,21 @@ int exchangeFrame(int socket, std::uint32_t serial, const strioctl& exchange) {
 int streams_open(const char* path, int oflag) {
   if (isStreamsNode(path)) return openNode(path, oflag);
   const int descriptor = openDriverSocket(path, oflag, Deadline(defaultLimitSeconds));
-  if (descriptor >= 0) serials()[descriptor] = 0;
+  if (descriptor >= 0) sessions()[descriptor] = {};
   return descriptor;
 }
 
 int streams_ioctl(int descriptor, int request, strioctl* exchange) {
-  const auto session = serials().find(descriptor);
-  if (session == serials().end()) return nodeExchange(descriptor, exchange);
+  const auto session = sessions().find(descriptor);
+  if (session == sessions().end()) return nodeExchange(descriptor, exchange);
   const int error =
-      isSound(request, exchange) ? exchangeFrame(descriptor, ++session->second, *exchange) : EINVAL;
+      isSound(request, exchange) ? exchangeFrame(descriptor, session->second, *exchange) : EINVAL;
   if (error == 0) return 0;
   errno = error;
   return -1;
 }
 
 int streams_close(int descriptor) {
-  serials().erase(descriptor);
+  sessions().erase(descriptor);
   return ::close(descriptor);
 }

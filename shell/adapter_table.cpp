@@ -14,7 +14,6 @@ constexpr int labelPadding = 8;  // pixels added to the text's height
 constexpr int rowPadding = 4;
 constexpr int columnPadding = 4;  // pixels added to the widest text
 constexpr int resizeSpace = 5;
-constexpr int moveNext = 3;
 
 // The widest text that each column shows.
 constexpr const char* samples[] = {
@@ -43,8 +42,8 @@ MainDlgAdapterInfoTBL::MainDlgAdapterInfoTBL(zWindow* parent, int id, zTableMode
 }
 
 void MainDlgAdapterInfoTBL::setupLabels() {
-  setLabelType(zColLabels, zLabelText);
-  setLabelType(zRowLabels, zLabelNone);
+  setLabelType(zTLabelColumns, zTLabelText);
+  setLabelType(zTLabelRows, zTLabelNone);
   enableLabelSelect(0);
   enableMultiSelect(0);
 
@@ -55,21 +54,21 @@ void MainDlgAdapterInfoTBL::setupLabels() {
   setLabelSize({0, height + labelPadding});
   setRowHeight(1, maxAdapters, static_cast<unsigned>(height + rowPadding));
   setResizeSpace(resizeSpace);
-  setActiveMoveDirection(static_cast<zTLabelDirection>(moveNext));
+  setActiveMoveDirection(zTMoveDown);
   for (unsigned long column = 1; column <= visibleColumns; ++column) {
     const int width = display.textDimension(samples[column - 1]).width;
     setColWidth(column, static_cast<unsigned>(width + columnPadding));
   }
   display.unlock();
   setColWidth(columnHidden, 1);
-  setLabelText(zColLabels, zResStrBlock(columnLabelBlock));
+  setLabelText(zTLabelColumns, zResStrBlock(columnLabelBlock));
 }
 
 void MainDlgAdapterInfoTBL::setupAttributes() {
   setGridLineColor(zDialogGrey);
   const zTableRegion visible{{1, 1}, {visibleColumns, maxAdapters}};
   model()->addAttr(std::make_unique<zTableReadOnlyAttr>(visible));
-  model()->addAttr(std::make_unique<zTableTextAlignmentAttr>(zAlignMiddle, visible));
+  model()->addAttr(std::make_unique<zTableTextAlignmentAttr>(zAlignCenterDown, visible));
   model()->addAttr(std::make_unique<zTableTextColorAttr>(
       zBlack, zTableRegion{{1, 1}, {columns, maxAdapters}}));
 }

@@ -1,7 +1,9 @@
 #include "store/driver_pdf_edit.h"
 
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "atm/devices.h"
 #include "foundation/odlog.h"
@@ -26,9 +28,11 @@ void storeInteger(std::int32_t number, void* field, std::size_t width) {
 }
 
 // Appends the records of a side file to a list. A field missing from a record is that of the
-// record before it.
+// record before it. What is no plain file, and so might block or never end, counts as missing.
 template <class Record>
 void readSideFile(const char* name, std::vector<Record>& list, const char* note) {
+  std::error_code none;
+  if (!std::filesystem::is_regular_file(name, none)) return;
   std::ifstream in(name);
   Record record = {};
   while (in >> record) {

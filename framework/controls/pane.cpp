@@ -11,9 +11,12 @@ zPane::zPane(zWindow* parent, zSizer* sizer, unsigned long style, const char* ti
   ziSetType(zTypePane);
 }
 
-zPane::zPane(zWindow* parent, int id) : zChildWin(parent, id) {
-  ziSetType(zTypePane);
+zPane::zPane(zWindow* parent, int id) : zPane(ziAdopt{}, parent, id) {
   bury();
+}
+
+zPane::zPane(ziAdopt, zWindow* parent, int id) : zChildWin(parent, id) {
+  ziSetType(zTypePane);
 }
 
 int zPane::create() {

@@ -36,6 +36,9 @@ class zPane : public zChildWin {
   Widget childArea() const override;
 
  protected:
+  // The same, and leaves it to the derived class to take the husk's state and bury it.
+  zPane(ziAdopt, zWindow* parent, int id);
+
   void paint(const zRect& area);
 
  private:

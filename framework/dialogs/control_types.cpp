@@ -7,6 +7,7 @@
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
+#include "framework/table/table.h"
 
 namespace {
 
@@ -32,6 +33,7 @@ constexpr Row packRows[] = {
     {"zStatTxt3dClass", build<zStaticText>},
     {"zGroupBox3dClass", build<zGroupBox>},
     {"zBmpBtnClass", build<zBitmapButton>},
+    {"zTable", build<zTable>},
 };
 
 template <std::size_t N>

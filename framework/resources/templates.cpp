@@ -34,8 +34,15 @@ constexpr zControlRecord mainControls[] = {
     end,
 };
 
+constexpr zControlRecord unavailableControls[] = {
+    {zAtomStatic, nullptr, 100, nullptr, label | 1, 7, 12, 186, 10},
+    {zAtomButton, nullptr, 1, "OK", tab | 1, 75, 32, 50, 15},
+    end,
+};
+
 constexpr zDialogTemplate dialogs[] = {
     {mainControls, 564, 0x80CE0000, 0, 0, 286, 158, "Ondrelle v2.20", helv, points, zNoMenu},
+    {unavailableControls, 584, 0x80C80080, 0, 0, 200, 54, nullptr, helv, points, zNoMenu},
 };
 
 }  // namespace

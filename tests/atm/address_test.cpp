@@ -6,6 +6,7 @@
 #include <iomanip>
 #include <sstream>
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -85,25 +86,19 @@ TEST(AtmAddress, BytesAndBack) {
 }
 
 TEST(Atox, DigitsOfBothCases) {
-  struct {
-    char digit;
-    int value;
-  } const rows[] = {{'0', 0},  {'9', 9},  {'a', 10}, {'F', 15},  {'g', 16},
-                    {'G', 16}, {'z', 35}, {':', -1}, {'\0', -1}, {'\xe4', -1}};
-  for (const auto& row : rows) EXPECT_EQ(atox(row.digit), row.value) << row.digit;
+  const std::tuple<char, int> rows[] = {{'0', 0},  {'9', 9},  {'a', 10}, {'F', 15},  {'g', 16},
+                                        {'G', 16}, {'z', 35}, {':', -1}, {'\0', -1}, {'\xe4', -1}};
+  for (const auto& [digit, value] : rows) EXPECT_EQ(atox(digit), value) << digit;
 }
 
 TEST(MacAddress, Parsing) {
-  struct {
-    const char* text;
-    const char* form;
-  } const rows[] = {
+  const std::tuple<const char*, const char*> rows[] = {
       {"00:A0:3E:00:00:01", "00:a0:3e:00:00:01"}, {"0-a0.3e_0:0:1", "00:a0:3e:00:00:01"},
       {"1ff:2:3:4:5:6", "ff:02:03:04:05:06"},     {"1:2:3", "01:02:03:03:03:03"},
       {"1:zz:3:4:5:6", "01:01:01:01:01:01"},      {"", "00:00:00:00:00:00"},
   };
-  for (const auto& row : rows) {
-    EXPECT_STREQ(fromText<macAddress>(row.text).GetFMacAddress(), row.form) << row.text;
+  for (const auto& [text, form] : rows) {
+    EXPECT_STREQ(fromText<macAddress>(text).GetFMacAddress(), form) << text;
   }
   EXPECT_STREQ(fromStream<macAddress>(" 00007788 99aA").GetFMacAddress(), "00:00:77:88:99:aa");
   EXPECT_STREQ(fromStream<macAddress>("0102", {{9, 9, 9, 9, 9, 9}}).GetFMacAddress(),
@@ -136,11 +131,7 @@ TEST(EsiSelector, Forms) {
 }
 
 TEST(IpAddress, Forms) {
-  struct {
-    const char* text;
-    const char* form;
-    bool good;
-  } const rows[] = {
+  const std::tuple<const char*, const char*, bool> rows[] = {
       {"192.168.1.7", "192.168.1.7", true},
       {"010.001.000.255", "10.1.0.255", true},
       {"300.1.1.1", "44.1.1.1", true},
@@ -149,12 +140,12 @@ TEST(IpAddress, Forms) {
       {"7.x.3.4", "7.7.7.7", false},
       {"", "0.0.0.0", false},
   };
-  for (const auto& row : rows) {
-    EXPECT_STREQ(fromText<ipAddress>(row.text).GetFIPAddress(), row.form) << row.text;
-    std::istringstream in(row.text);
+  for (const auto& [text, form, good] : rows) {
+    EXPECT_STREQ(fromText<ipAddress>(text).GetFIPAddress(), form) << text;
+    std::istringstream in(text);
     ipAddress address = {};
-    EXPECT_EQ(static_cast<bool>(in >> address), row.good) << row.text;
-    EXPECT_EQ(streamed(address), row.form);
+    EXPECT_EQ(static_cast<bool>(in >> address), good) << text;
+    EXPECT_EQ(streamed(address), form);
   }
 }
 

@@ -3,15 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <tuple>
 
 namespace {
 
 TEST(CellRate, TypedRatesBecomeCells) {
-  struct {
-    std::uint32_t typed;
-    RateUnit unit;
-    std::uint32_t cps;
-  } const rows[] = {
+  const std::tuple<std::uint32_t, RateUnit, std::uint32_t> rows[] = {
       {155, megabitsPerSecond, 352768},
       {0, cellsPerSecond, 0},
       {0, megabitsPerSecond, 1136},
@@ -23,35 +20,28 @@ TEST(CellRate, TypedRatesBecomeCells) {
       {165190500, bitsPerSecond, 374784},
       {165191050, bitsPerSecond, 1},
   };
-  for (const auto& row : rows) {
+  for (const auto& [typed, unit, cps] : rows) {
     CellRateValue rate;
-    EXPECT_EQ(rate.conv2cps(row.typed, row.unit), row.cps) << row.typed << " in " << row.unit;
-    EXPECT_EQ(rate, (CellRateValue{row.cps, dfltCellRate, cellsPerSecond})) << "only cps changes";
+    EXPECT_EQ(rate.conv2cps(typed, unit), cps) << typed << " in " << unit;
+    EXPECT_EQ(rate, (CellRateValue{cps, dfltCellRate, cellsPerSecond})) << "only cps changes";
   }
 }
 
 TEST(CellRate, CellsShownInAUnit) {
-  struct {
-    std::uint32_t cps;
-    std::uint32_t unit, value;
-  } const rows[] = {
+  const std::tuple<std::uint32_t, std::uint32_t, std::uint32_t> rows[] = {
       {352768, 0, 155326464}, {352768, 1, 352768}, {352768, 2, 155326}, {352768, 3, 155},
       {352768, 9, 155326464}, {1136, 3, 1},        {1, 0, 441},         {375172, 0, 68},
   };
-  for (const auto& row : rows) {
+  for (const auto& [cps, number, value] : rows) {
     CellRateValue rate;
-    const RateUnit unit = static_cast<RateUnit>(row.unit);
-    EXPECT_EQ(rate.cps2unit(row.cps, unit), row.value) << row.cps << " in " << row.unit;
-    EXPECT_EQ(rate, (CellRateValue{dfltCellRate, row.value, unit})) << "cps stays";
+    const RateUnit unit = static_cast<RateUnit>(number);
+    EXPECT_EQ(rate.cps2unit(cps, unit), value) << cps << " in " << unit;
+    EXPECT_EQ(rate, (CellRateValue{dfltCellRate, value, unit})) << "cps stays";
   }
 }
 
 TEST(CellRate, RateFormat) {
-  struct {
-    std::uint32_t rate;
-    std::uint16_t format;
-    std::uint32_t back;
-  } const rows[] = {
+  const std::tuple<std::uint32_t, std::uint16_t, std::uint32_t> rows[] = {
       {0, 0, 0},
       {1, 0x4000, 1},
       {3, 0x4300, 3},
@@ -64,9 +54,9 @@ TEST(CellRate, RateFormat) {
       {0x1000000, 0, 0},
       {0xFF000000, 0, 0},
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(CellRateValue::cellrate_to_float(row.rate), row.format) << row.rate;
-    EXPECT_EQ(CellRateValue::float_to_cellrate(row.format), row.back) << row.rate;
+  for (const auto& [rate, format, back] : rows) {
+    EXPECT_EQ(CellRateValue::cellrate_to_float(rate), format) << rate;
+    EXPECT_EQ(CellRateValue::float_to_cellrate(format), back) << rate;
   }
   EXPECT_EQ(CellRateValue::float_to_cellrate(0x3FFF), 0u);
   EXPECT_EQ(CellRateValue::float_to_cellrate(0x41FF), 1u) << "no mantissa at exponent 0";
@@ -74,10 +64,7 @@ TEST(CellRate, RateFormat) {
 }
 
 TEST(CellRate, FromText) {
-  struct {
-    const char* text;
-    std::uint32_t cps;
-  } const rows[] = {
+  const std::tuple<const char*, std::uint32_t> rows[] = {
       {"1234", 1234},
       {" 7 ", 7},
       {"4294967295", 4294967295},
@@ -87,10 +74,10 @@ TEST(CellRate, FromText) {
       {"", dfltCellRate},
       {"-1", dfltCellRate},
   };
-  for (const auto& row : rows) {
+  for (const auto& [text, cps] : rows) {
     CellRateValue rate{1, 2, megabitsPerSecond};
-    rate = row.text;
-    EXPECT_EQ(rate, (CellRateValue{row.cps, row.cps, cellsPerSecond})) << row.text;
+    rate = text;
+    EXPECT_EQ(rate, (CellRateValue{cps, cps, cellsPerSecond})) << text;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <tuple>
 
 #include "atm/devices.h"
 
@@ -36,22 +37,19 @@ TEST(TransferBuffers, PhysicalKeepsTheConfiguredPair) {
 }
 
 TEST(TransferBuffers, SignallingVersions) {
-  struct {
-    std::int32_t number, code;
-    std::int16_t place;
-    std::int32_t numberBack, codeBack;
-  } const rows[] = {{30, 0, 0, 30, 2}, {31, 0, 1, 31, 3}, {40, 0, 2, 40, 4},
-                    {1, 0, 1, 31, 3},  {41, 9, 3, 41, 9}, {-31, 9, -31, -1, 9}};
-  for (const auto& row : rows) {
+  const std::tuple<std::int32_t, std::int32_t, std::int16_t, std::int32_t, std::int32_t> rows[] = {
+      {30, 0, 0, 30, 2}, {31, 0, 1, 31, 3}, {40, 0, 2, 40, 4},
+      {1, 0, 1, 31, 3},  {41, 9, 3, 41, 9}, {-31, 9, -31, -1, 9}};
+  for (const auto& [number, code, place, numberBack, codeBack] : rows) {
     AtmSig sig;
-    sig.UniRev = row.number;
-    sig.cfg.UniRevision = row.code;
+    sig.UniRev = number;
+    sig.cfg.UniRevision = code;
     SigXferBuffer buffer;
     buffer = sig;
-    EXPECT_EQ(buffer.UniRev, row.place) << row.number;
+    EXPECT_EQ(buffer.UniRev, place) << number;
     sig = buffer;
-    EXPECT_EQ(sig.UniRev, row.numberBack) << row.number;
-    EXPECT_EQ(sig.cfg.UniRevision, row.codeBack) << row.number;
+    EXPECT_EQ(sig.UniRev, numberBack) << number;
+    EXPECT_EQ(sig.cfg.UniRevision, codeBack) << number;
   }
 }
 

@@ -90,10 +90,10 @@ TEST_F(StreamsTest, MalformedRepliesAreProtocolErrorsAndTheSessionGoesOn) {
     WireHead head;
     std::size_t bodyBytes;
   } malformed[] = {
-      {{2, 1, 0, 0, 1}, 0},          // the length says more than there is
-      {{2, 2, 0, 0, 1}, 2},          // and less
-      {{1, 3, 0, 0, 0}, 0},          // the answer to an open
-      {{2, 4, 0, 0, 66000}, 66000},  // longer than any frame
+      {{2, 1, 0, 0, 1}, 0},                // the length says more than there is
+      {{2, 2, 0, 0, 1}, 2},                // and less
+      {{1, 3, 0, 0, 0}, 0},                // the answer to an open
+      {{2, 4, 0, 0, wireMaxBody}, 66000},  // cut short
   };
   startDriver([&](ScriptedDriver& driver, const WireMessage& request) {
     if (const std::size_t i = request.head.serial - 1; i < std::size(malformed))

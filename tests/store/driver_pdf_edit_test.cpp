@@ -3,6 +3,7 @@
 #include <cstring>
 #include <random>
 #include <sstream>
+#include <tuple>
 #include <vector>
 
 #include "atm/devices.h"
@@ -135,10 +136,7 @@ TEST_F(DriverPdf, LimitsOfTheDriver) {
 }
 
 TEST_F(DriverPdf, SignallingVersion) {
-  struct {
-    const char* adapter;
-    int number, code;
-  } const rows[] = {
+  const std::tuple<const char*, int, int> rows[] = {
       {"[Signalling0\nUniRev = 30\n]\n", 30, 2},
       {"[Signalling0\nUniRev = 40\n]\n", 40, 4},
       {"[Signalling0\n]\n", 31, 3},
@@ -148,21 +146,16 @@ TEST_F(DriverPdf, SignallingVersion) {
       {"[Signalling0\nUniRev = 40\n[Q2931Section0\nUniRev = 7\n]\n]\n", 40, 7},
       {"[Signalling\nUniRev = 40\n]\n", 1, 2},
   };
-  for (const auto& row : rows) {
-    readSig(row.adapter);
-    EXPECT_EQ(sig.UniRev, row.number) << row.adapter;
-    EXPECT_EQ(sig.cfg.UniRevision, row.code) << row.adapter;
+  for (const auto& [adapter, number, code] : rows) {
+    readSig(adapter);
+    EXPECT_EQ(sig.UniRev, number) << adapter;
+    EXPECT_EQ(sig.cfg.UniRevision, code) << adapter;
   }
 }
 
 TEST_F(DriverPdf, SignallingKeysOfOldAndNewNames) {
   const std::string update = "Please update odconf to use KEY ";
-  struct {
-    const char* adapter;
-    int registration, detect;
-    const char* prefix;
-    std::string log;
-  } const rows[] = {
+  const std::tuple<const char*, int, int, const char*, std::string> rows[] = {
       {"[Signalling0\nIlmi = 0\nNoMibSync = 1\nIlmiPrefix = 39aa\n]\n", 1, 1,
        "39aa0000000000000000000000",
        update + "AddressRegistration instead of Ilmi\n" + update +
@@ -178,12 +171,12 @@ TEST_F(DriverPdf, SignallingKeysOfOldAndNewNames) {
        "\nWARNING: link 0, Address Registration disabled,\nbut no NetPrefix configured\n"
        "\tUsing  atm_addr: G"},
   };
-  for (const auto& row : rows) {
-    const std::string log = readSig(row.adapter);
-    EXPECT_EQ(sig.cfg.AddressRegistration, row.registration) << row.adapter;
-    EXPECT_EQ(sig.cfg.PortChangeDetect, row.detect) << row.adapter;
-    EXPECT_STREQ(atmDevices.sig[0].GetNetworkPrefix(), row.prefix) << row.adapter;
-    EXPECT_NE(log.find(row.log), std::string::npos) << row.adapter << log;
+  for (const auto& [adapter, registration, detect, prefix, line] : rows) {
+    const std::string log = readSig(adapter);
+    EXPECT_EQ(sig.cfg.AddressRegistration, registration) << adapter;
+    EXPECT_EQ(sig.cfg.PortChangeDetect, detect) << adapter;
+    EXPECT_STREQ(atmDevices.sig[0].GetNetworkPrefix(), prefix) << adapter;
+    EXPECT_NE(log.find(line), std::string::npos) << adapter << log;
   }
   EXPECT_EQ(sig.cfg.addressForm, 2);
   EXPECT_EQ(sig.cfg.addressLength, 13);
@@ -206,12 +199,12 @@ TEST_F(DriverPdf, TextsAndAddresses) {
 }
 
 TEST_F(DriverPdf, ListsOfCircuits) {
-  write("pvcs",
-        "junk\n[PVC more\n\tRate=7\nAddr =0000778899aa # x\nVC=-1\nBcast=1#\nEncap=1\n]\n"
-        "[PVC\n\tVC    =100\t#VC index\n# Rate =9\n\nx\ny\nRate=9\n[PVC\nVC=5");
+  write("pvcs", std::string(100, 'j') +
+                    "\n[PVC more\n\tRate=7\nAddr =0000778899aa # x\nVC=-1\nBcast=1#\nEncap=1\n]\n"
+                    "[PVC\n\tVC    =100\t#VC index\n# Rate =9\n\nx\ny\nRate=9\n[PVC\nVC=5");
   write("ips", "[PVC\nAddr=10.0.0.1\nVC=9\nRate=-3\nEncap=1\nBcast=0\n]\n");
   read(
-      "[Adapter0\n[LEC0\nPvcConfFile = pvcs\n]\n[LEC1\nPvcConfFile = none\n]\n"
+      "[Adapter0\n[LEC0\nPvcConfFile = pvcs\n]\n[LEC1\nPvcConfFile = /dev/zero\n]\n"
       "[IP15770\nPvcConfFile = ips\n]\n]\n");
   const auto& pvcs = atmDevices.lec[0][0].pvcs;
   const macAddress mac = {{0, 0, 0x77, 0x88, 0x99, 0xaa}};

@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <memory>
+#include <tuple>
 
 #include "store/section_internal.h"
 #include "store_fixture.h"
@@ -74,10 +75,7 @@ TEST_F(Section, FindsTheSectionOfAPath) {
 }
 
 TEST_F(Section, FindsKeys) {
-  struct {
-    const char* data;
-    const char* k;
-  } const rows[] = {
+  const std::tuple<const char*, const char*> rows[] = {
       {"K=1\n", "1"},
       {"\tK \t = \t a b  c  \t# d\n", "a b  c"},
       {"K = a#b\n", "a"},
@@ -98,18 +96,14 @@ TEST_F(Section, FindsKeys) {
       {"K # = 6\n", "6"},
       {"== K = 6\n", "6"},
   };
-  for (const auto& row : rows) {
-    writeConfig(std::string("[A\n") + row.data + "]\n");
-    EXPECT_EQ(lookUp("/A", "K"), row.k) << row.data;
+  for (const auto& [data, k] : rows) {
+    writeConfig(std::string("[A\n") + data + "]\n");
+    EXPECT_EQ(lookUp("/A", "K"), k) << data;
   }
 }
 
 TEST_F(Section, ConvertsByType) {
-  struct {
-    const char* text;
-    int type, len, result;
-    const char* bytes;
-  } const rows[] = {
+  const std::tuple<const char*, int, int, int, const char*> rows[] = {
       {"-2", T_CHAR, 1, 0, "fe......"},
       {"300", T_CHAR, 1, 0, "2c......"},
       {"-2", T_SHORT, 2, 0, "feff...."},
@@ -133,19 +127,19 @@ TEST_F(Section, ConvertsByType) {
       {"1", 0, 4, -1, "........"},
       {"1", 8, 4, -1, "........"},
   };
-  for (const auto& row : rows) {
-    writeConfig(std::string("[A\nK = ") + row.text + "\n]\n");
+  for (const auto& [text, type, len, result, expected] : rows) {
+    writeConfig(std::string("[A\nK = ") + text + "\n]\n");
     const Handle handle = open("/A");
     ASSERT_TRUE(handle);
     unsigned char target[4] = {0x2e, 0x2e, 0x2e, 0x2e};
-    EXPECT_EQ(ReadKey(handle.get(), "K", target, row.type, row.len), row.result) << row.text;
+    EXPECT_EQ(ReadKey(handle.get(), "K", target, type, len), result) << text;
     std::string bytes;
     for (const unsigned byte : target) {
       char digits[3] = "..";
       if (byte != 0x2e) std::snprintf(digits, sizeof digits, "%02x", byte);
       bytes += digits;
     }
-    EXPECT_EQ(bytes, row.bytes) << row.text << " as type " << row.type;
+    EXPECT_EQ(bytes, expected) << text << " as type " << type;
   }
 }
 
@@ -226,6 +220,9 @@ TEST_F(Section, HandlesTellWhetherTheyLive) {
   EXPECT_STREQ(handle->section, "/A");
   EXPECT_STREQ(handle->data, "K = 1\n]\n");
   EXPECT_EQ(handle->nest, 1);
+  const std::string dump = printed([&] { SectDump(handle.get()); });
+  EXPECT_NE(dump.find("cookie  deadbeef\n"), std::string::npos) << dump;
+  EXPECT_NE(dump.find("section /A\n"), std::string::npos) << dump;
   EXPECT_EQ(std::strspn(SectDmsg, "="), 74u);
 }
 
