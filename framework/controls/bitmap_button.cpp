@@ -51,6 +51,17 @@ void ziCtrlPane::repaint() {
   ziPaintOffscreen(this, all, [this](zDrawEvt* event) { draw(event); });
 }
 
+void ziCtrlPane::captureMouse(const zMouseClickEvt* press) {
+  constexpr unsigned mask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask;
+  captured_ = XtGrabPointer(getWidget(), False, mask, GrabModeAsync, GrabModeAsync, None, None,
+                            press->xEvent->xbutton.time) == GrabSuccess;
+}
+
+void ziCtrlPane::releaseMouse() {
+  if (captured_) XtUngrabPointer(getWidget(), CurrentTime);
+  captured_ = false;
+}
+
 void ziCtrlPane::vmove(int x, int y, int width, int height) {
   zControl::vmove(x, y, width, height);
   setDirty(nullptr, 0);
@@ -152,6 +163,7 @@ int zBitmapButton::mouseButtonDown(zMouseClickEvt* event) {
   if (!event->isButton(1) || button_.isHeld()) return 0;
   heldByKey_ = false;
   button_.press();
+  captureMouse(event);
   refresh();
   if (styleValue() & zStyleTabStop) XmProcessTraversal(getWidget(), XmTRAVERSE_CURRENT);
   return 1;
@@ -189,6 +201,7 @@ int zBitmapButton::ziXmKeybindNP(zKeyEvt* event) {
 }
 
 void zBitmapButton::release(bool inside) {
+  releaseMouse();
   button_.track(inside);
   const bool isClick = button_.release();
   refresh();
@@ -196,6 +209,7 @@ void zBitmapButton::release(bool inside) {
 }
 
 void zBitmapButton::cancelPress() {
+  releaseMouse();
   button_.cancel();
   refresh();
 }

@@ -23,12 +23,18 @@ class ziCtrlPane : public zControl {
   virtual void draw(zDrawEvt* event) = 0;
   // Paints everything at once, without waiting for the server to ask.
   void repaint();
+  // From the capture on the control gets all mouse events, wherever the pointer goes. Without it
+  // the windows under the pointer would, since the framework asks for the button's events on all of
+  // them.
+  void captureMouse(const zMouseClickEvt* press);
+  void releaseMouse();
 
  private:
   void createArea();
   static void exposeCB(Widget widget, XtPointer link, XtPointer callData);
 
   ziExposure exposure_;
+  bool captured_ = false;
 };
 
 // The handler that a drawn control's command goes to before its parent hears of it.
