@@ -9,9 +9,13 @@
 namespace {
 
 // Texts count adapters from 1.
-int shown(int adapter) { return adapter + 1; }
+int shown(int adapter) {
+  return adapter + 1;
+}
 
-bool isPrimary(const AtmPhy& phy) { return phy.cfgRLPrimary != 0; }
+bool isPrimary(const AtmPhy& phy) {
+  return phy.cfgRLPrimary != 0;
+}
 
 std::string macInService(const AtmDevices& devices, const AtmPhy& board) {
   if (board.linkState != linkActive) return "-";
@@ -34,9 +38,14 @@ void sayInactivePrimary(const AtmDevices& devices, int adapter, std::ostream& ou
   }
   out << "Inactive, Backup adapter " << shown(other);
   switch (backup.linkState) {
-    case linkActive: out << " is Active for adapter " << shown(backup.activeLink); break;
-    case linkInactive: out << " is Inactive."; break;
-    default: out << " is Down.";
+    case linkActive:
+      out << " is Active for adapter " << shown(backup.activeLink);
+      break;
+    case linkInactive:
+      out << " is Inactive.";
+      break;
+    default:
+      out << " is Down.";
   }
 }
 
@@ -124,21 +133,25 @@ void describeDownBackup(const AtmPhy& board, AdapterStatus& row, std::ostream& o
   out << "Backed Up by " << shown(board.activeLink);
 }
 
-void describeBackup(const AtmDevices& devices, int adapter, AdapterStatus& row,
-                    std::ostream& out) {
+void describeBackup(const AtmDevices& devices, int adapter, AdapterStatus& row, std::ostream& out) {
   const AtmPhy& board = devices.phy[adapter];
   row.type = "Backup";
   row.switchConfig = " ";
   switch (board.linkState) {
-    case linkActive: describeActiveBackup(board, row, out); break;
+    case linkActive:
+      describeActiveBackup(board, row, out);
+      break;
     case linkInactive:
       row.status = "Available";
       row.color = rowYellow;
       out << "Available";
       saySparedAdapters(devices, adapter, out);
       break;
-    case linkDown: describeDownBackup(board, row, out); break;
-    default: logBadState(board);
+    case linkDown:
+      describeDownBackup(board, row, out);
+      break;
+    default:
+      logBadState(board);
   }
 }
 

@@ -27,7 +27,9 @@ struct AdapterStatus {
 };
 
 // Whether an adapter number names one of the adapters there can be; a negative one does not.
-inline bool isAdapter(int number) { return static_cast<unsigned>(number) < maxAdapters; }
+inline bool isAdapter(int number) {
+  return static_cast<unsigned>(number) < maxAdapters;
+}
 
 // Describes adapter `adapter` (0 to 7). Odd states are logged.
 AdapterStatus describeAdapter(const AtmDevices& devices, int adapter);

@@ -1,6 +1,9 @@
 #include "shell/adapter_table.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <numeric>
 
 #include "applet/run_state.h"
 #include "foundation/odlog.h"
@@ -14,11 +17,19 @@ constexpr int labelPadding = 8;  // pixels added to the text's height
 constexpr int rowPadding = 4;
 constexpr int columnPadding = 4;  // pixels added to the widest text
 constexpr int resizeSpace = 5;
+constexpr int hiddenPixels = 1;
 
-// The widest text that each column shows.
-constexpr const char* samples[] = {
-    "Adapter", "Primary X", "Data Link", "11:AA:AA:AA:AA:AA", "Available X", "Switch Config",
+// Of each column, a text with room to spare, and the widest text that it does show.
+struct Sample {
+  const char* ample;
+  const char* widest;
 };
+constexpr Sample samples[] = {
+    {"Adapter", "[  8  ]"},       {"Primary X", "Primary"},
+    {"Data Link", "8"},           {"11:AA:AA:AA:AA:AA", "00:00:00:00:00:00"},
+    {"Available X", "Available"}, {"Switch Config", "Manual"},
+};
+constexpr std::size_t sampleCount = std::size(samples);
 
 zTableRegion rowRegion(unsigned long row, unsigned long lastColumn) {
   return {{1, row}, {lastColumn, row}};
@@ -47,30 +58,46 @@ void MainDlgAdapterInfoTBL::setupLabels() {
   enableLabelSelect(0);
   enableMultiSelect(0);
 
-  zWinDisplay display(this);
-  display.lock();
-  display.setFont(boldFont_);
-  const int height = display.textDimension(samples[0]).height;
+  setLabelText(zTLabelColumns, zResStrBlock(columnLabelBlock));
+  setGridLineColor(zDialogGrey);
+
+  const int height = getFont()->height();
   setLabelSize({0, height + labelPadding});
   setRowHeight(1, maxAdapters, static_cast<unsigned>(height + rowPadding));
   setResizeSpace(resizeSpace);
   setActiveMoveDirection(zTMoveDown);
+  setColWidth(columnHidden, hiddenPixels);
+  const std::vector<int> widths = columnWidths();
   for (unsigned long column = 1; column <= visibleColumns; ++column) {
-    const int width = display.textDimension(samples[column - 1]).width;
-    setColWidth(column, static_cast<unsigned>(width + columnPadding));
+    setColWidth(column, static_cast<unsigned>(widths[column - 1]));
   }
-  display.unlock();
-  setColWidth(columnHidden, 1);
-  setLabelText(zTLabelColumns, zResStrBlock(columnLabelBlock));
+}
+
+// Ample columns, if the table has the room; otherwise each as wide as it needs to be for what it
+// shows, on the selected row too, with its share of what is left.
+std::vector<int> MainDlgAdapterInfoTBL::columnWidths() const {
+  std::vector<int> ample, tight;
+  for (std::size_t i = 0; i < sampleCount; ++i) {
+    ample.push_back(getFont()->textWidth(samples[i].ample) + columnPadding);
+    const int label = labelFont().textWidth(getLabelText(zTLabelColumns, i + 1));
+    tight.push_back(std::max(label, boldFont_->textWidth(samples[i].widest)) + columnPadding);
+  }
+  const int room = roomForCells().width - hiddenPixels;
+  if (std::accumulate(ample.begin(), ample.end(), 0) <= room) return ample;
+  const int left = room - std::accumulate(tight.begin(), tight.end(), 0);
+  constexpr int columnCount = static_cast<int>(sampleCount);
+  for (int i = 0; left > 0 && i < columnCount; ++i) {
+    tight[static_cast<std::size_t>(i)] += left / columnCount + (i < left % columnCount);
+  }
+  return tight;
 }
 
 void MainDlgAdapterInfoTBL::setupAttributes() {
-  setGridLineColor(zDialogGrey);
   const zTableRegion visible{{1, 1}, {visibleColumns, maxAdapters}};
   model()->addAttr(std::make_unique<zTableReadOnlyAttr>(visible));
   model()->addAttr(std::make_unique<zTableTextAlignmentAttr>(zAlignCenterDown, visible));
-  model()->addAttr(std::make_unique<zTableTextColorAttr>(
-      zBlack, zTableRegion{{1, 1}, {columns, maxAdapters}}));
+  model()->addAttr(
+      std::make_unique<zTableTextColorAttr>(zBlack, zTableRegion{{1, 1}, {columns, maxAdapters}}));
 }
 
 void MainDlgAdapterInfoTBL::replaceAttr(zTableAttr*& slot, std::unique_ptr<zTableAttr> attr) {
@@ -83,8 +110,7 @@ void MainDlgAdapterInfoTBL::SelectRow(unsigned long row) {
   if (selectedRow_) {
     SetCellText({columnAdapter, selectedRow_}, std::to_string(selectedRow_).c_str());
   }
-  replaceAttr(selectionFont_,
-              std::make_unique<zTableFontAttr>(boldFont_, rowRegion(row, columns)));
+  replaceAttr(selectionFont_, std::make_unique<zTableFontAttr>(boldFont_, rowRegion(row, columns)));
   char mark[32];
   std::snprintf(mark, sizeof mark, "[  %d  ]", static_cast<int>(row));
   SetCellText({columnAdapter, row}, mark);
@@ -121,8 +147,8 @@ void MainDlgAdapterInfoTBL::updateRow(int adapter) {
   SetRowBGColor(row, status.color);
   SetCellText({columnType, row}, status.type);
   SetCellText({columnDataLink, row}, status.dataLink.c_str());
-  odlog << "Setting Status for Adapt#" << row << " to '" << status.status << "' status == "
-        << status.sentence << std::endl;
+  odlog << "Setting Status for Adapt#" << row << " to '" << status.status
+        << "' status == " << status.sentence << std::endl;
   SetCellText({columnStatus, row}, status.status);
   atmDevices.phy[adapter].boardText2 = status.sentence;
   SetCellText({columnSwitch, row}, status.switchConfig);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "applet/my_table.h"
 #include "atm/limits.h"
@@ -33,6 +34,7 @@ class MainDlgAdapterInfoTBL : public myTable {
 
  private:
   void setupLabels();
+  std::vector<int> columnWidths() const;
   void setupAttributes();
   void updateRow(int adapter);
   void replaceAttr(zTableAttr*& slot, std::unique_ptr<zTableAttr> attr);

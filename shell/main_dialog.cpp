@@ -16,6 +16,7 @@
 #include "framework/core/app.h"
 #include "framework/dialogs/tool_tips.h"
 #include "framework/drawing/bitmap.h"
+#include "framework/resources/resources.h"
 #include "shell/adapter_status.h"
 #include "shell/adapter_table.h"
 
@@ -87,8 +88,8 @@ DMainDlg::~DMainDlg() {
 // Controls.
 
 void DMainDlg::createStatusLine() {
-  statusLine_ = new zStatusLineEZ(this, new zGravSizer(zGravBottom, 0, sizer()), firstItemText, 0,
-                                  nullptr);
+  statusLine_ =
+      new zStatusLineEZ(this, new zGravSizer(zGravBottom, 0, sizer()), firstItemText, 0, nullptr);
   statusLine_->show(1);
   statusItem_ = statusLine_->getItem(0);
 }

@@ -31,8 +31,7 @@ int DMainDlg::clickedSetupBTN(zNotifyEvt*) {
     return 0;
   }
   if (!DaiOpenSuccess) {
-    noticeBox("Driver Error",
-              "Atm Driver Not Loaded. \nNo dynamic configuration available!");
+    noticeBox("Driver Error", "Atm Driver Not Loaded. \nNo dynamic configuration available!");
   }
   disableTimer();
   DUnavailableDlg(this, setupTitle).modal();
@@ -65,9 +64,13 @@ int DMainDlg::clickedCloseBTN(zNotifyEvt*) {
   return 0;
 }
 
-int DMainDlg::clickedBrennwickLogoBTN(zNotifyEvt*) { return 0; }
+int DMainDlg::clickedBrennwickLogoBTN(zNotifyEvt*) {
+  return 0;
+}
 
-int DMainDlg::doubleClickAdapterInfoTBL(zNotifyEvt* event) { return clickedSetupBTN(event); }
+int DMainDlg::doubleClickAdapterInfoTBL(zNotifyEvt* event) {
+  return clickedSetupBTN(event);
+}
 
 int DMainDlg::selChangeAdapterInfoTBL() {
   const zTableLoc cell = table_->getActiveCell();

@@ -32,7 +32,6 @@ void ziCtrlPane::createArea() {
   add(XmNmarginHeight, 0);
   add(XmNresizePolicy, XmRESIZE_NONE);
   add(XmNbackgroundPixmap, None);
-  add(XmNnavigationType, XmTAB_GROUP);
   const Widget area = XtCreateManagedWidget("DrawingArea", xmDrawingAreaWidgetClass, board,
                                             args.data(), static_cast<Cardinal>(args.size()));
   adoptWidget(area);

@@ -28,13 +28,14 @@ zControl::zControl(zWindow* parent, int id) : zChildWin(parent, id), subType_(su
 
 std::vector<Arg> zControl::commonArgs() const {
   const bool tabStop = (styleValue() & zStyleTabStop) != 0;
-  std::vector<Arg> args(6);
+  std::vector<Arg> args(7);
   XtSetArg(args[0], XmNbackground, ziClrm->pixel(backgroundColor()));
   XtSetArg(args[1], XmNforeground, ziClrm->pixel(textColor_));
   XtSetArg(args[2], XmNtraversalOn, tabStop);
   XtSetArg(args[3], XmNwidth, std::max(sizer()->width(), 1));
   XtSetArg(args[4], XmNheight, std::max(sizer()->height(), 1));
   XtSetArg(args[5], XmNsensitive, !(styleValue() & zStyleDisabled));
+  XtSetArg(args[6], XmNnavigationType, ziNavigation(tabStop));
   return args;
 }
 

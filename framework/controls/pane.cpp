@@ -22,12 +22,13 @@ zPane::zPane(ziAdopt, zWindow* parent, int id) : zChildWin(parent, id) {
 int zPane::create() {
   const Widget board = createContainer("Pane");
   const zRect place = sizer()->rect();
+  const bool tabStop = (styleValue() & zStyleTabStop) != 0;
   const Widget area = XtVaCreateManagedWidget(
       "DrawingArea", xmDrawingAreaWidgetClass, board, XmNwidth, std::max(place.width(), 1),
       XmNheight, std::max(place.height(), 1), XmNmarginWidth, 0, XmNmarginHeight, 0,
       XmNresizePolicy, XmRESIZE_NONE, XmNbackground, ziClrm->pixel(backgroundColor()),
-      XmNbackgroundPixmap, None, XmNtraversalOn, (styleValue() & zStyleTabStop) != 0, XmNsensitive,
-      !(styleValue() & zStyleDisabled), nullptr);
+      XmNbackgroundPixmap, None, XmNtraversalOn, tabStop, XmNnavigationType, ziNavigation(tabStop),
+      XmNsensitive, !(styleValue() & zStyleDisabled), nullptr);
   setWidgets(area, nullptr);
   link()->control = area;
   listen(area, ziWindowEventMask, ziWinProc);

@@ -1,7 +1,15 @@
 // Windows inside windows.
 #pragma once
 
+#include <Xm/Xm.h>
+
 #include "framework/core/window.h"
+
+// Every tab stop is a tab group of its own, of the kind that Motif visits in the order of creation,
+// which is the template's, and not by place.
+constexpr XmNavigationType ziNavigation(bool tabStop) {
+  return tabStop ? XmNavigationType{XmEXCLUSIVE_TAB_GROUP} : XmNavigationType{XmNONE};
+}
 
 class zChildWin : public zWindow {
  public:

@@ -5,6 +5,8 @@
 #include <Xm/MwmUtil.h>
 #include <Xm/Xm.h>
 
+#include <utility>
+
 #include "framework/core/app.h"
 #include "framework/drawing/bitmap.h"
 
@@ -87,6 +89,11 @@ void zFrameWin::setIcon(std::unique_ptr<zIcon> icon) {
 void zFrameWin::applyIcon() {
   if (!icon_ || !shell_) return;
   XtVaSetValues(shell_, XmNiconPixmap, icon_->pixmap(), XmNiconMask, icon_->mask(), nullptr);
+}
+
+void zFrameWin::focusFirst() {
+  zWindow* wanted = std::exchange(firstFocus_, nullptr);
+  if (wanted && isAncestorOf(wanted)) wanted->setFocus();
 }
 
 int zFrameWin::showSet(int how) {

@@ -30,10 +30,15 @@ class zFrameWin : public zWindow {
   void getExterior(zRect& rect) const override;
   void vmove(int x, int y, int width, int height) override;
 
+  // The window in this frame that gets the focus once the frame is on the screen.
+  void focusWhenShown(zWindow* window) { firstFocus_ = window; }
+
   Widget shell() const { return shell_; }
   bool isRoot() const;
 
  protected:
+  // Gives the focus to the window that asked for it before there was anything to see.
+  void focusFirst();
   void setShell(Widget shell) { shell_ = shell; }
   void applyIcon();
 
@@ -47,6 +52,7 @@ class zFrameWin : public zWindow {
  private:
   void createApplicationShell();
 
+  zWindow* firstFocus_ = nullptr;  // looked up among the children before it is used
   Widget shell_ = nullptr;
   std::unique_ptr<zIcon> icon_;
 };

@@ -348,6 +348,11 @@ void zWindow::ziFocusTimeout(XtPointer link, XtIntervalId*) {
 
 void zWindow::ziSetFocusHandler() {
   pendingFocus_ = 0;
+  zFrameWin* top = frame();
+  if (top && top != this && !top->isShown()) {
+    top->focusWhenShown(this);
+    return;
+  }
   const Widget widget = focusWidget();
   if (!widget) return;
   XmProcessTraversal(widget, XmTRAVERSE_CURRENT);  // moves to the tab group
@@ -457,6 +462,12 @@ zFrameWin* zWindow::frame() {
     if (w->isA(zTypeFrameWin)) return static_cast<zFrameWin*>(w);
   }
   return nullptr;
+}
+
+bool zWindow::isAncestorOf(const zWindow* window) const {
+  return std::any_of(kids_.begin(), kids_.end(), [window](const zWindow* kid) {
+    return kid == window || kid->isAncestorOf(window);
+  });
 }
 
 zWindow* zWindow::ziFindDefPushButton() const {

@@ -148,6 +148,8 @@ class zWindow : public zEvH {
   zWindow* prevWin() const;
   int ctrlId() const { return ctrlId_; }
   zFrameWin* frame();
+  // Whether `window`, which may be gone already, is below this one.
+  bool isAncestorOf(const zWindow* window) const;
   // The button that Return in an edit presses: the first default push button among the children.
   zWindow* ziFindDefPushButton() const;
 

@@ -200,6 +200,7 @@ void zDialogFrame::showTimeout() {
     sizer()->dimension({now.width, now.height});
     ziSendSize(this, {now.width, now.height});
   }
+  focusFirst();
 }
 
 void zDialogFrame::bringUp() {

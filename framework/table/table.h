@@ -57,6 +57,9 @@ class zTable : public zPane {
   int colWidth(unsigned long col) const { return cols_.size(col); }
   int rowHeight(unsigned long row) const { return rows_.size(row); }
   void setGridLineColor(zColor color);
+  const zFont& labelFont() const { return *labelFont_; }
+  // What the labels leave for cells, with no scroll bar.
+  zDimension roomForCells() const;
 
   // What the user may do. At first only sizing is on, and it needs a resize space.
   void enableMultiSelect(int on) { multiSelect_ = on != 0; }

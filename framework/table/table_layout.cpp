@@ -44,6 +44,12 @@ zDimension zTable::labelRoom() const {
           labels_[zTLabelColumns].type == zTLabelNone ? 0 : labelSize_.height};
 }
 
+zDimension zTable::roomForCells() const {
+  const zDimension room = roomInside();
+  const zDimension labels = labelRoom();
+  return {room.width - labels.width, room.height - labels.height};
+}
+
 // Each bar takes room that may make the other one necessary.
 void zTable::arrange() {
   if (!getContainer() || !scrollers_[0]) return;
