@@ -13,10 +13,10 @@ constexpr std::uint32_t panelFrame = label | 7;
 constexpr std::uint32_t separator = label | 8;
 constexpr std::uint32_t groupBox = label | 7;
 constexpr std::uint32_t pictureLeft = tab | 0x800;
-constexpr std::uint32_t pictureLeftToggle = pictureLeft | 0x200;
+constexpr std::uint32_t pictureLeftToggle = pictureLeft | 0x220;
 
 // The maker's picture: clickable, flat, and no stop for Tab.
-constexpr std::uint32_t logo = label | 0x4000;
+constexpr std::uint32_t logo = label | 0x2000;
 
 constexpr zControlRecord end{0, nullptr, 0, nullptr, 0, 0, 0, 0, 0};
 
