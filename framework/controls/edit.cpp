@@ -59,12 +59,11 @@ void zEditBase::createText() {
   addCallback(text, XmNactivateCallback, activateCB);
 }
 
-// The line stands in the middle of the field, so that a label of the same height is on its
-// baseline.
+// Puts the line on the baseline that a label of the same place and height has.
 void zEditBase::centreLine(Widget text) const {
-  XtWidgetGeometry natural{};
-  XtQueryGeometry(text, nullptr, &natural);
-  const int margin = (sizer()->height() - natural.height) / 2;
+  if (!getFont()) return;
+  const int labelBaseline = (sizer()->height() - getFont()->height()) / 2 + getFont()->ascent();
+  const int margin = labelBaseline - XmTextGetBaseline(text);
   XtVaSetValues(text, XmNmarginHeight, std::max(margin, 0), nullptr);
 }
 
