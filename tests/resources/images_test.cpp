@@ -51,7 +51,7 @@ struct BitmapCase {
   unsigned width, height;
 };
 
-const std::vector<BitmapCase> kBitmaps = {
+const std::vector<BitmapCase> bitmaps = {
     {{500}, 156, 20},
     {{501}, 132, 20},
     {{502}, 108, 20},
@@ -68,7 +68,7 @@ const std::vector<BitmapCase> kBitmaps = {
 };
 
 TEST(Images, BitmapsAreSixFramesOfTheirSize) {
-  for (const auto& expected : kBitmaps) {
+  for (const auto& expected : bitmaps) {
     SCOPED_TRACE(expected.ids[0]);
     const unsigned char* data = ziFindImage(expected.ids[0], zResBitmap);
     ASSERT_NE(data, nullptr);
@@ -86,7 +86,7 @@ TEST(Images, BitmapsAreSixFramesOfTheirSize) {
 }
 
 TEST(Images, FramesStandOnTheDialogsGrey) {
-  for (const auto& expected : kBitmaps) {
+  for (const auto& expected : bitmaps) {
     const Bitmap bitmap(ziFindImage(expected.ids[0], zResBitmap));
     const unsigned width = bitmap.width / frames;
     for (unsigned left = 0; left < bitmap.width; left += width)
@@ -97,7 +97,7 @@ TEST(Images, FramesStandOnTheDialogsGrey) {
 }
 
 TEST(Images, StatesLookDifferent) {
-  for (const auto& expected : kBitmaps) {
+  for (const auto& expected : bitmaps) {
     SCOPED_TRACE(expected.ids[0]);
     const Bitmap bitmap(ziFindImage(expected.ids[0], zResBitmap));
     EXPECT_NE(bitmap.frame(0), bitmap.frame(1)) << "off, disabled";
