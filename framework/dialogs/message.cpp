@@ -100,11 +100,21 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   XmAddWMProtocolCallback(
       XtParent(box), XmInternAtom(app->display(), const_cast<char*>("WM_DELETE_WINDOW"), False),
       doClose, this);
+  XtAddCallback(box, XmNdestroyCallback, destroyedCB, this);
   XtManageChild(box);
   XtPopup(XtParent(box), XtGrabNone);
-  while (!done_) XtAppProcessEvent(app->context(), XtIMAll);
+  while (!done_ && !destroyed_) XtAppProcessEvent(app->context(), XtIMAll);
+  if (destroyed_) return;
+  XtRemoveCallback(box, XmNdestroyCallback, destroyedCB, this);
   XtUnmanageChild(box);
   XtDestroyWidget(XtParent(box));
+}
+
+// The window that the box stands over was deleted, and the box with it: as if it had been closed.
+void zMessage::destroyedCB(Widget, XtPointer message, XtPointer) {
+  auto* self = static_cast<zMessage*>(message);
+  self->answer(1);
+  self->destroyed_ = true;
 }
 
 Widget zMessage::createBox(Widget shell, const char* text, const char* title, unsigned style) {
