@@ -49,7 +49,9 @@ class zControl : public zChildWin {
  private:
   static void CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
   static bool keyReachesHandlers(const zControl* control, const zKeyEvt& key);
+  void keyPressedOrReleased(XEvent* event);
   void mousePressed(XEvent* event, Boolean* goOn);
+  void crossed(XEvent* event);
 
   zColor textColor_ = zBlack;
   int subType_;

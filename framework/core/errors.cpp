@@ -84,7 +84,8 @@ void zAppErrorHandler(char* message) {
   debug("%s", message);
 }
 
-void zAppFatalHandler(char* message) {
-  zAppErrorHandler(message);
+void zAppFatalErrorHandler(char* message) {
+  debug("%s", message);
+  std::fprintf(stderr, "Error: %s\n", message);
   std::exit(1);
 }
