@@ -10,7 +10,7 @@
 #include "framework/drawing/color.h"
 #include "framework/resources/resources.h"
 
-static_assert(zCursor::arrow == XC_arrow && zCursor::wait == XC_watch);
+static_assert(zCursor::arrow == XC_arrow && zCursor::watch == XC_watch);
 
 namespace {
 
