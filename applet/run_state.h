@@ -6,8 +6,6 @@
 
 #include "atm/limits.h"
 
-
-
 extern std::int32_t currentAdapter;             // the selected adapter, 0 to 7
 extern std::uint32_t MaintimerTime;             // period of the main timer, milliseconds
 extern std::string dlgTitle;                    // caption text for the selected adapter
