@@ -87,7 +87,11 @@ void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   zWindowWatch watch(this);
   ziPreMouseClick(&click);
   const bool handled = eventMapHas(zMsgButtonDown) && doHandler(&click, this);
-  if (handled || watch.gone() || mouseButtonDown(&click)) *goOn = False;
+  if (handled || watch.gone() || mouseButtonDown(&click)) {
+    *goOn = False;
+  } else if (click.isButton(1) || click.isButton(2)) {
+    captureMouse(event->xbutton.time);
+  }
 }
 
 void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn) {
@@ -110,6 +114,7 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
       control->mousePressed(event, goOn);
       break;
     case ButtonRelease:
+      control->releaseMouse();
       if (ziMouseReleased(control, event)) *goOn = False;
       break;
     case MotionNotify:

@@ -113,6 +113,12 @@ class zWindow : public zEvH {
   // Takes effect 150 ms later; a second call within that time replaces the first.
   void setFocus();
 
+  // From the capture on the window gets all mouse events, wherever the pointer goes. Without it the
+  // windows under the pointer would, since the framework asks for button events on all of them.
+  // `time` is that of the press.
+  void captureMouse(Time time);
+  void releaseMouse();
+
   // Handlers of any message, whatever its id.
   void setHandler(zEventHandler handler, unsigned message);
   void removeHandler(const zEventHandler& handler, unsigned message);
@@ -240,6 +246,7 @@ class zWindow : public zEvH {
   Widget mainWidget_ = nullptr;
   Widget scrolledWidget_ = nullptr;
   XtIntervalId pendingFocus_ = 0;
+  bool captured_ = false;
   std::unique_ptr<ziControlCB> link_;
   std::list<Listener> listeners_;
 };

@@ -154,10 +154,21 @@ void zDialogFrame::getInterior(zRect& rect) const {
 
 void zDialogFrame::vmove(int x, int y, int width, int height) {
   zFrameWin::vmove(x, y, width, height);
+  sizeBoards(width, height);
+}
+
+void zDialogFrame::sizeBoards(int width, int height) {
   if (!workArea_) return;
   for (const Widget board : {outerBoard_, workArea_}) {
     XtVaSetValues(board, XmNwidth, width, XmNheight, height, nullptr);
   }
+}
+
+// The shell was moved or, by the user, given another size, which its contents take over.
+int zDialogFrame::move(zMoveEvt* event) {
+  const XConfigureEvent& now = event->xEvent->xconfigure;
+  if (now.window == XtWindow(shell())) sizeBoards(now.width, now.height);
+  return 0;
 }
 
 void zDialogFrame::setMinimumSize(const zDimension& size) {
