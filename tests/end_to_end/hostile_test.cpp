@@ -59,7 +59,7 @@ TEST(Hostile, DriversThatMisbehave) {
   const Case cases[] = {
       {"boards 0", "NumBoards  - 0"},
       {"boards 3\nnumber 200", "NumBoards  - 200"},
-      {"boards 3\nfault 129 2 board 2 errno EIO", "Dai Request Failure"},
+      {"boards 3\nboard 2 silent", "Setting MAC Addr for Adapt#2 to Not Installed"},
       {"boards 3\nfault 129 1 untouched", "Dai Request Failure"},
       {"boards 3\nfault 129 2 hangup", "Dai Request Failure"},
       {"boards 3\nfault 129 16 code 9", "  GetRLSInfo: returned NULL!!!"},

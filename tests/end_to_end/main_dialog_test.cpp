@@ -69,15 +69,17 @@ TEST(MainDialog, StartsAndPolls) {
 
   // Two polls without a change: a request for each board, and no traffic with the X server.
   const std::size_t before = host.requests().size();
-  EXPECT_EQ(person.requestsDuring(main.window,
-                                  [&] { host.awaitRequests(before + 2 * pollRequests.size()); }),
-            0u);
-  EXPECT_EQ(host.requests(),
-            startRequests + pollRequests + pollRequests + pollRequests + pollRequests);
+  const auto twoPolls = [&] {
+    for (const std::size_t polls : {1u, 2u}) {
+      EXPECT_TRUE(host.awaitRequests(before + polls * pollRequests.size()));
+    }
+  };
+  EXPECT_EQ(person.requestsDuring(main.window, twoPolls), 0u);
+  EXPECT_EQ(host.requests().size(), before + 2 * pollRequests.size());
 
   const auto sentence = main.statusLine();
   EXPECT_EQ(host.driver.command("board 1 link down"), "ok\n");
-  EXPECT_TRUE(main.rowTurns(1, red));
+  EXPECT_GT(person.requestsDuring(main.window, [&] { EXPECT_TRUE(main.rowTurns(1, red)); }), 0u);
   EXPECT_TRUE(lisimWaitFor([&] { return main.statusLine() != sentence; }));
   EXPECT_TRUE(run.logged("  GetRLSInfo: Data Changed.", 6)) << "five at the start";
   EXPECT_TRUE(main.turnsBlank(activateButton));
@@ -120,7 +122,6 @@ TEST(MainDialog, FollowsTheSelection) {
   ASSERT_TRUE(main.rowTurns(4, red));
   ASSERT_TRUE(run.logged("Main Dialog activated."));
   const auto first = main.statusLine();
-  ASSERT_FALSE(main.turnsBlank({0, 0}) && main.face(activateButton).empty());
 
   main.clickRow(3);  // the backup that can give its link back
   EXPECT_TRUE(run.logged("currentAdapter <-- 2"));
@@ -135,22 +136,22 @@ TEST(MainDialog, FollowsTheSelection) {
   person.key(XK_Down);
   person.key(XK_Down);  // the silent board
   EXPECT_TRUE(run.logged("currentAdapter <-- 5"));
+  person.key(XK_Down);  // the table ends here
   EXPECT_TRUE(lisimWaitFor([&] { return main.face(statsButton) != enabled; }));
   main.click(statsButton);
   main.click(globalButton);
   EXPECT_NE(person.await("Global Settings"), None);
   EXPECT_TRUE(person.windows("Statistics").empty());
-  person.key(XK_Escape);
+  person.key(XK_space);
   EXPECT_TRUE(run.logged("Starting main timer.", 2));
 
-  person.key(XK_Down);  // the table ends here
-  person.key(XK_Up);
-  EXPECT_TRUE(run.logged("currentAdapter <-- 4"));
-  EXPECT_EQ(run.errors().find("currentAdapter <-- 6"), std::string::npos);
+  main.clickRow(5);
+  EXPECT_TRUE(run.logged("currentAdapter <-- 4", 2));
   EXPECT_TRUE(lisimWaitFor([&] { return main.face(statsButton) == enabled; }));
 
   main.clickRow(1);
   EXPECT_TRUE(lisimWaitFor([&] { return main.statusLine() == first; }));
+  EXPECT_EQ(run.errors().find("currentAdapter <-- 6"), std::string::npos);
   EXPECT_FALSE(main.face(activateButton) == std::vector<unsigned long>(80 * 16, grey));
 }
 
@@ -185,7 +186,7 @@ TEST(MainDialog, SetupIsModalForUser0) {
   const Person person;
   const MainWindow main(person);
   ASSERT_TRUE(run.logged("Main Dialog activated."));
-  const KeySym keys[] = {XK_space, XK_Return, XK_Escape, NoSymbol};
+  const KeySym keys[] = {XK_space, XK_Return, NoSymbol};
   int round = 0;
   for (const KeySym key : keys) {
     SCOPED_TRACE(++round);

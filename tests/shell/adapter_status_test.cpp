@@ -1,7 +1,6 @@
 // What the table and the status line say about an adapter in every state that the records can hold.
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -21,18 +20,6 @@ struct Board {
 
 constexpr std::uint16_t unknownState = 3;
 
-struct Case {
-  std::vector<Board> boards;
-  int adapter;
-  const char* type;
-  const char* dataLink;
-  const char* mac;
-  const char* status;
-  const char* switchConfig;
-  zColor color;
-  const char* sentence;
-};
-
 // The address of board N reads "macN".
 AtmDevices devicesOf(const std::vector<Board>& boards) {
   AtmDevices devices;
@@ -51,232 +38,93 @@ AtmDevices devicesOf(const std::vector<Board>& boards) {
 
 constexpr Board free{0, -1, 0, linkInactive, -1};  // a backup that carries nothing
 constexpr Board serves0{0, -1, 0, linkActive, 0};  // a backup that carries adapter 0's link
-constexpr Board serves2{0, -1, 0, linkActive, 2};  // a backup that carries adapter 2's link
+constexpr Board serves2{0, -1, 0, linkActive, 2};
 constexpr Board deadBackup{0, -1, 0, linkDown, -1};
+constexpr Board oddBackup{0, -1, 0, unknownState, 0};
 constexpr Board alone{1, -1, 0, linkActive, -1};  // a primary without a backup
 
-const Case cases[] = {
-    // Active primaries.
-    {{alone}, 0, "Primary", "1", "mac0", "Active", "", rowGreen, "Active, no backup."},
-    {{{1, 1, 1, linkActive, 1}, free},
-     0,
-     "Primary",
-     "1",
-     "mac0",
-     "Active",
-     "Auto",
-     rowGreen,
-     "Active, backup is adapter 2"},
-    {{alone, free, {1, 1, 0, linkActive, -1}},
-     2,
-     "Primary",
-     "3",
-     "mac2",
-     "Active",
-     "Manual",
-     rowGreen,
-     "Active, backup is adapter 2"},
-    {{{1, 9, 0, linkActive, -1}},
-     0,
-     "Primary",
-     "1",
-     "mac0",
-     "Active",
-     "Manual",
-     rowGreen,
-     "Active, backup is adapter 10"},
-    // Inactive primaries: the backup is the active link, or else the one in the file, or none.
-    {{{1, -1, 1, linkInactive, -1}},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "",
-     rowYellow,
-     "Inactive, not backed up."},
-    {{{1, 8, 0, linkInactive, 8}},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, not backed up."},
-    {{{1, 1, 0, linkInactive, 1}, serves0},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, backed up by adapter 2"},
-    {{{1, -1, 0, linkInactive, 1}, serves0},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "",
-     rowYellow,
-     "Inactive, backed up by adapter 2"},
-    {{{1, 2, 0, linkInactive, 1}, serves0, free},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, backed up by adapter 2"},
-    {{{1, 1, 0, linkInactive, 8}, serves2},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, Backup adapter 2 is Active for adapter 3"},
-    {{{1, 1, 0, linkInactive, -1}, free},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, Backup adapter 2 is Inactive."},
-    {{{1, 1, 0, linkInactive, 1}, deadBackup},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, Backup adapter 2 is Down."},
-    {{{1, 1, 0, linkInactive, 1}, {0, -1, 0, unknownState, 0}},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Inactive",
-     "Manual",
-     rowYellow,
-     "Inactive, Backup adapter 2 is Down."},
-    // Primaries that are down: only the active link tells of the backup.
-    {{{1, -1, 0, linkDown, -1}}, 0, "Primary", " ", "-", "Down", "", rowRed, "Down"},
-    {{{1, -1, 0, linkDown, 1}, serves0}, 0, "Primary", " ", "-", "Down", "", rowRed, "Down"},
-    {{{1, 1, 1, linkDown, -1}, serves0}, 0, "Primary", " ", "-", "Down", "Auto", rowRed, "Down"},
-    {{{1, 1, 1, linkDown, 1}, serves0},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Down",
-     "Auto",
-     rowRed,
-     "Down, Backed Up by 2"},
-    {{{1, 1, 0, linkDown, 1}, deadBackup},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Down",
-     "Manual",
-     rowRed,
-     "Down, Backup Adapter 2 is Down."},
-    {{{1, 1, 0, linkDown, 1}, free},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Down",
-     "Manual",
-     rowRed,
-     "Down, Backup Adapter 2 is Inactive."},
-    {{{1, 1, 0, linkDown, 1}, {0, -1, 0, unknownState, 0}},
-     0,
-     "Primary",
-     " ",
-     "-",
-     "Down",
-     "Manual",
-     rowRed,
-     "Down, Backup Adapter 2 is Inactive."},
-    {{{1, 1, 0, linkDown, 1000}}, 0, "Primary", " ", "-", "Down", "Manual", rowRed, "Down"},
-    // States that no table knows.
-    {{alone, {1, 0, 1, unknownState, -1}}, 1, "Primary", "2", "-", "?", "Auto", rowGrey, ""},
-    {{alone, {0, 0, 1, 65535, 0}}, 1, "Backup", " ", "-", "?", " ", rowGrey, ""},
-    // Backups that carry a link show the address that goes with it.
-    {{serves0}, 0, "Backup", "1", "mac0", "Active", " ", rowGreen, "Active, for Adapter 1"},
-    {{alone, serves2, alone},
-     1,
-     "Backup",
-     "3",
-     "mac2",
-     "Active",
-     " ",
-     rowGreen,
-     "Active, for Adapter 3"},
-    {{alone, {0, -1, 0, linkActive, 7}},
-     1,
-     "Backup",
-     "8",
-     "mac7",
-     "Active",
-     " ",
-     rowGreen,
-     "Active, for Adapter 8"},
-    {{alone, {0, -1, 0, linkActive, 8}},
-     1,
-     "Backup",
-     "?",
-     "mac1 ?",
-     "Active",
-     " ",
-     rowGreen,
-     "Active, for Adapter 9"},
-    {{alone, {0, -1, 0, linkActive, -1}},
-     1,
-     "Backup",
-     "?",
-     "mac1 ?",
-     "Active",
-     " ",
-     rowGreen,
-     "Active, for Adapter 0"},
-    // Backups that stand by, for primaries within the number of boards only.
-    {{alone, free}, 1, "Backup", " ", "-", "Available", " ", rowYellow, "Available"},
-    {{{1, 1, 0, 0, -1}, free, {0, 1, 0, 1, -1}, {1, 1, 0, 0, -1}, {1, 0, 0, 0, -1}},
-     1,
-     "Backup",
-     " ",
-     "-",
-     "Available",
-     " ",
-     rowYellow,
-     "Available, for adapter 1, 4"},
-    // Backups that are down.
-    {{alone, deadBackup}, 1, "Backup", " ", "-", "Down", " ", rowRed, "Down"},
-    {{alone, {0, 2, 0, linkDown, -1}}, 1, "Backup", " ", "-", "Down", " ", rowRed, "Down"},
-    {{alone, {0, 2, 1, linkDown, 2}}, 1, "Backup", " ", "-", "Down", " ", rowRed, "Backed Up by 3"},
+// Rows of the primary that is board 0.
+struct PrimaryCase {
+  Board board;
+  Board other;  // board 1
+  const char* dataLink;
+  const char* mac;
+  const char* status;
+  const char* switchConfig;
+  zColor color;
+  const char* sentence;
+};
+// clang-format off
+const PrimaryCase primaries[] = {
+    {alone, free, "1", "mac0", "Active", "", rowGreen, "Active, no backup."},
+    {{1, 1, 1, 0, 1}, free, "1", "mac0", "Active", "Auto", rowGreen, "Active, backup is adapter 2"},
+    {{1, 9, 0, 0, 1}, free, "1", "mac0", "Active", "Manual", rowGreen, "Active, backup is adapter 10"},
+    // Inactive: the backup is the active link, or else the one in the file, or none.
+    {{1, -1, 1, 1, -1}, free, " ", "-", "Inactive", "", rowYellow, "Inactive, not backed up."},
+    {{1, 8, 0, 1, 8}, free, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, not backed up."},
+    {{1, 1, 0, 1, 1}, serves0, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, backed up by adapter 2"},
+    {{1, 2, 0, 1, 1}, serves0, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, backed up by adapter 2"},
+    {{1, 1, 0, 1, 8}, serves2, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, Backup adapter 2 is Active for adapter 3"},
+    {{1, 1, 0, 1, -1}, free, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, Backup adapter 2 is Inactive."},
+    {{1, 1, 0, 1, 1}, deadBackup, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, Backup adapter 2 is Down."},
+    {{1, 1, 0, 1, 1}, oddBackup, " ", "-", "Inactive", "Manual", rowYellow, "Inactive, Backup adapter 2 is Down."},
+    // Down: only the active link tells of the backup.
+    {{1, -1, 0, 2, 1}, serves0, " ", "-", "Down", "", rowRed, "Down"},
+    {{1, 1, 1, 2, -1}, serves0, " ", "-", "Down", "Auto", rowRed, "Down"},
+    {{1, 1, 1, 2, 1000}, serves0, " ", "-", "Down", "Auto", rowRed, "Down"},
+    {{1, 1, 1, 2, 1}, serves0, " ", "-", "Down", "Auto", rowRed, "Down, Backed Up by 2"},
+    {{1, 1, 0, 2, 1}, deadBackup, " ", "-", "Down", "Manual", rowRed, "Down, Backup Adapter 2 is Down."},
+    {{1, 1, 0, 2, 1}, free, " ", "-", "Down", "Manual", rowRed, "Down, Backup Adapter 2 is Inactive."},
+    {{1, 1, 0, 2, 1}, oddBackup, " ", "-", "Down", "Manual", rowRed, "Down, Backup Adapter 2 is Inactive."},
+    {{1, 1, 1, unknownState, -1}, free, "1", "-", "?", "Auto", rowGrey, ""},
 };
 
+// Rows of the backup that is board 1, between two primaries unless others are given.
+struct BackupCase {
+  std::vector<Board> boards;
+  const char* dataLink;
+  const char* mac;
+  const char* status;
+  zColor color;
+  const char* sentence;
+};
+const BackupCase backups[] = {
+    {{alone, serves0, alone}, "1", "mac0", "Active", rowGreen, "Active, for Adapter 1"},
+    {{alone, serves2, alone}, "3", "mac2", "Active", rowGreen, "Active, for Adapter 3"},
+    {{alone, {0, -1, 0, 0, 7}}, "8", "mac7", "Active", rowGreen, "Active, for Adapter 8"},
+    {{alone, {0, -1, 0, 0, 8}}, "?", "mac1 ?", "Active", rowGreen, "Active, for Adapter 9"},
+    {{alone, {0, -1, 0, 0, -1}}, "?", "mac1 ?", "Active", rowGreen, "Active, for Adapter 0"},
+    {{alone, free}, " ", "-", "Available", rowYellow, "Available"},
+    {{{1, 1, 0, 0, -1}, free, {0, 1, 0, 1, -1}, {1, 1, 0, 0, -1}, {1, 0, 0, 0, -1}}, " ", "-", "Available", rowYellow, "Available, for adapter 1, 4"},
+    {{alone, deadBackup}, " ", "-", "Down", rowRed, "Down"},
+    {{alone, {0, 2, 0, 2, -1}}, " ", "-", "Down", rowRed, "Down"},
+    {{alone, {0, 2, 1, 2, 2}}, " ", "-", "Down", rowRed, "Backed Up by 3"},
+    {{alone, {0, 0, 1, 65535, 0}}, " ", "-", "?", rowGrey, ""},
+};
+// clang-format on
+
+void expectRow(const AdapterStatus& row, const std::string& type, const std::string& dataLink,
+               const std::string& mac, const std::string& status, const std::string& switchConfig,
+               const zColor& color, const std::string& sentence) {
+  EXPECT_EQ(row.type, type);
+  EXPECT_EQ(row.dataLink, dataLink);
+  EXPECT_EQ(row.macAddress, mac);
+  EXPECT_EQ(row.status, status);
+  EXPECT_EQ(row.switchConfig, switchConfig);
+  EXPECT_TRUE(row.color == color);
+  EXPECT_EQ(row.sentence, sentence);
+}
+
 TEST(AdapterStatus, NamesEveryState) {
-  for (const Case& c : cases) {
-    SCOPED_TRACE(testing::Message() << "case " << &c - cases << ": " << c.sentence);
-    const AdapterStatus row = describeAdapter(devicesOf(c.boards), c.adapter);
-    EXPECT_STREQ(row.type, c.type);
-    EXPECT_EQ(row.dataLink, c.dataLink);
-    EXPECT_EQ(row.macAddress, c.mac);
-    EXPECT_STREQ(row.status, c.status);
-    EXPECT_STREQ(row.switchConfig, c.switchConfig);
-    EXPECT_TRUE(row.color == c.color);
-    EXPECT_EQ(row.sentence, "Adapter " + std::to_string(c.adapter + 1) + ": " + c.sentence);
+  for (const PrimaryCase& c : primaries) {
+    SCOPED_TRACE(testing::Message() << "primary " << &c - primaries);
+    expectRow(describeAdapter(devicesOf({c.board, c.other}), 0), "Primary", c.dataLink, c.mac,
+              c.status, c.switchConfig, c.color, std::string("Adapter 1: ") + c.sentence);
+  }
+  for (const BackupCase& c : backups) {
+    SCOPED_TRACE(testing::Message() << "backup " << &c - backups);
+    expectRow(describeAdapter(devicesOf(c.boards), 1), "Backup", c.dataLink, c.mac, c.status, " ",
+              c.color, std::string("Adapter 2: ") + c.sentence);
   }
 }
 
