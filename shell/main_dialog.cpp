@@ -68,6 +68,7 @@ DMainDlg::DMainDlg(zWindow* parent, const zResId& id) : zFormDialog(parent, id, 
   Update();
 
   enableTimer();
+  setMinimumSize(sizer()->dimension());
   centerWindow(0);
   show(1);
   table_->setFocus();

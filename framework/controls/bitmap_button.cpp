@@ -3,6 +3,12 @@
 #include <X11/keysym.h>
 #include <Xm/DrawingA.h>
 
+namespace {
+
+constexpr int focusGap = 2;  // pixels between a caption and the focus rectangle at its sides
+
+}  // namespace
+
 // The drawn control.
 
 ziCtrlPane::ziCtrlPane(zWindow* parent, zSizer* sizer, unsigned long style, const char* title,
@@ -145,6 +151,7 @@ int zBitmapButton::mouseButtonDown(zMouseClickEvt* event) {
   if (!event->isButton(1) || button_.isHeld()) return 0;
   heldByKey_ = false;
   button_.press();
+  captureMouse(event->xEvent->xbutton.time);
   refresh();
   if (styleValue() & zStyleTabStop) XmProcessTraversal(getWidget(), XmTRAVERSE_CURRENT);
   return 1;
@@ -182,6 +189,7 @@ int zBitmapButton::ziXmKeybindNP(zKeyEvt* event) {
 }
 
 void zBitmapButton::release(bool inside) {
+  releaseMouse();
   button_.track(inside);
   const bool isClick = button_.release();
   refresh();
@@ -189,6 +197,7 @@ void zBitmapButton::release(bool inside) {
 }
 
 void zBitmapButton::cancelPress() {
+  releaseMouse();
   button_.cancel();
   refresh();
 }
@@ -251,11 +260,14 @@ void zBitmapButton::draw(zDrawEvt* event) {
   drawn_ = Look{button_.frame(), button_.isDepressed(), showsDisabled(), focused_};
 }
 
-// On the caption, or inside the border of a button without one.
+// Around the caption, or inside the border of a button without one.
 void zBitmapButton::drawFocus(zDisplay& display) const {
-  const zRect inner = button_.place().inset(button_.inset() + 1);
-  const zRect& text = caption_.place();
-  display.focusRect(text.isEmpty() ? inner
-                                   : zRect(text.left - 1, text.top, text.right + 1, text.bottom)
-                                         .intersection(button_.place().inset(button_.inset())));
+  const zRect inside = button_.place().inset(button_.inset());
+  if (caption_.place().isEmpty()) {
+    display.focusRect(inside.inset(1));
+    return;
+  }
+  const zRect text = caption_.textPlace(display.font());
+  const zRect around(text.left - focusGap, text.top, text.right + focusGap, text.bottom);
+  display.focusRect(around.intersection(inside));
 }

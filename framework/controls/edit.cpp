@@ -43,19 +43,28 @@ void zEditBase::createText() {
   add(XmNeditMode, multiLine ? XmMULTI_LINE_EDIT : XmSINGLE_LINE_EDIT);
   add(XmNeditable, !readOnly);
   add(XmNcursorPositionVisible, !readOnly);
-  add(XmNmarginHeight, 2);
+  add(XmNmarginHeight, 0);
   add(XmNmarginWidth, 3);
   if (getFont()) add(XmNfontList, reinterpret_cast<XtArgVal>(getFont()->fontList()));
   const Widget text = XtCreateManagedWidget("TextField", xmTextWidgetClass, row, args.data(),
                                             static_cast<Cardinal>(args.size()));
-  XtVaSetValues(text, XmNbackground, ziClrm->pixel(readOnly ? backgroundColor() : zWhite), nullptr);
+  if (!multiLine) centreLine(text);
   ziSetText(text, title());
   adoptWidget(row, text);
+  if (!readOnly) setColors(text, zWhite);
   addCallback(text, XmNmodifyVerifyCallback, modifyCB);
   addCallback(text, XmNvalueChangedCallback, changedCB);
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
+}
+
+// Puts the line on the baseline that a label of the same place and height has.
+void zEditBase::centreLine(Widget text) const {
+  if (!getFont()) return;
+  const int labelBaseline = (sizer()->height() - getFont()->height()) / 2 + getFont()->ascent();
+  const int margin = labelBaseline - XmTextGetBaseline(text);
+  XtVaSetValues(text, XmNmarginHeight, std::max(margin, 0), nullptr);
 }
 
 // Data transfer.
@@ -95,7 +104,7 @@ void zEditBase::limitText(int length) {
 }
 
 void zEditBase::editBackgroundColor(const zColor& color) {
-  if (textWidget()) XmChangeColor(textWidget(), ziClrm->pixel(color));
+  if (textWidget()) setColors(textWidget(), color);
 }
 
 // Selection and clipboard.

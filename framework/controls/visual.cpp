@@ -28,6 +28,13 @@ zDimension ziVisText3d::size(const zFont& font) const {
   return {font.textWidth(text_), font.height()};
 }
 
+zRect ziVisText3d::textPlace(const zFont& font) const {
+  const std::size_t blanks = std::min(text_.find_first_not_of(' '), text_.size());
+  zRect rect = place();
+  rect.left += font.textWidth(std::string_view(text_).substr(0, blanks));
+  return rect;
+}
+
 void ziVisText3d::draw(zDisplay& display) const {
   const zPoint baseline{place().left, place().top + display.font().ascent()};
   if (disabled_) {

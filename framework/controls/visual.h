@@ -33,6 +33,8 @@ class ziVisText3d : public ziVisual {
   void text(const std::string& title) { text_ = stripAmpersand(title); }
   // In pixels; empty for a caption of blanks alone.
   zDimension size(const zFont& font) const;
+  // Where the characters stand when it has been placed: without the blanks in front.
+  zRect textPlace(const zFont& font) const;
   void color(const zColor& color) { color_ = color; }
   void disabled(bool isDisabled) { disabled_ = isDisabled; }
   void draw(zDisplay& display) const override;

@@ -18,6 +18,8 @@
 
 zApp* app = nullptr;
 int zAppKeepRunning = 1;
+int zargc = 0;
+char** zargv = nullptr;
 char* ZAPPXMprogname = nullptr;
 int ziModalSem = 0;
 Widget ziActiveDialog = nullptr;
@@ -108,11 +110,12 @@ void zApp::connect(int argc, char** argv) {
   }
   if (!fallbacks_.empty()) XtAppSetFallbackResources(context_, fallbacks_.data());
   // The toolkit takes the options it knows out of the vector it is given.
-  std::vector<char*> arguments(argv, argv + argc);
-  arguments.push_back(nullptr);
-  int count = argc;
-  display_ = XtOpenDisplay(context_, nullptr, nullptr, className_.c_str(), nullptr, 0, &count,
-                           arguments.data());
+  arguments_.assign(argv, argv + argc);
+  arguments_.push_back(nullptr);
+  zargc = argc;
+  zargv = arguments_.data();
+  display_ =
+      XtOpenDisplay(context_, nullptr, nullptr, className_.c_str(), nullptr, 0, &zargc, zargv);
   if (display_) {
     // A key that is held down repeats its press, without releases in between.
     XkbSetDetectableAutoRepeat(display_, True, nullptr);
@@ -221,7 +224,7 @@ void zApp::dropHandler(const zEventHandler& handler, unsigned message) {
 
 void zApp::go() {
   XtAppSetWarningHandler(context_, zAppErrorHandler);
-  XtAppSetErrorHandler(context_, zAppErrorHandler);
+  XtAppSetErrorHandler(context_, zAppFatalErrorHandler);
   XSetErrorHandler(zAppXlibErrorHandler);
   while (zAppKeepRunning) XtAppProcessEvent(context_, XtIMAll);
 }

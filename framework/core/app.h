@@ -11,14 +11,18 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "framework/core/event_handler.h"
 #include "framework/core/notify.h"
 #include "framework/core/task.h"
 #include "framework/core/timer.h"
+#include "framework/resources/resources.h"
 
 class zFrameWin;
-class zResId;
+
+extern int zargc;  // the arguments as the toolkit left them
+extern char** zargv;
 
 class zApp {
  public:
@@ -37,8 +41,11 @@ class zApp {
   void quit();
 
   const char* cmdLine() const { return cmdLine_.c_str(); }
-  int getNumArgs() const { return argc_; }
-  char** getCmdArgs() const { return argv_; }
+  // The arguments that the toolkit left: all but the options it knows. The last is followed by
+  // null.
+  int getNumArgs() const { return zargc; }
+  char** getCmdArgs() const { return zargv; }
+  void ziSetNumArgs(int count) { zargc = count; }
   Display* display() const { return display_; }
   XtAppContext context() const { return context_; }
   Widget toplevel() const { return toplevel_; }
@@ -76,6 +83,9 @@ class zApp {
     dropHandler(zEventHandler(object, member), message);
   }
 
+  // Where resources without a module of their own are looked for from now on.
+  void setDefaultResourceModule(const char* module) { zAppDefResource = module; }
+
   // Called once by the first frame window: the shell it made, and what is read then.
   void setToplevel(Widget shell);
   void setScreenDefaults(Widget shell);
@@ -98,6 +108,7 @@ class zApp {
   std::string cmdLine_;
   int argc_;
   char** argv_;
+  std::vector<char*> arguments_;  // what zargv points to
   zFrameWin* rootWindow_ = nullptr;
   zTaskDev tasks_;
   std::unique_ptr<zTimerDev> timers_;

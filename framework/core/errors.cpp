@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "framework/core/app.h"
@@ -81,4 +82,10 @@ int zAppXlibErrorHandler(Display* display, XErrorEvent* event) {
 
 void zAppErrorHandler(char* message) {
   debug("%s", message);
+}
+
+void zAppFatalErrorHandler(char* message) {
+  debug("%s", message);
+  std::fprintf(stderr, "Error: %s\n", message);
+  std::exit(1);
 }

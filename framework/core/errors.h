@@ -24,6 +24,9 @@ void zAppDoError(int number, int detail, int severity);
 // Reports a failed condition; `kind` is 0 for a pre-condition, 1 an assertion, 2 a post-condition.
 void zAppDoAssert(int kind, const char* file, int line);
 
-// Handlers of the X and Xt libraries' errors: both write through debug() and let the program live.
+// Handlers of the X library's errors and of the toolkit's warnings: both write through debug() and
+// let the program live.
 int zAppXlibErrorHandler(Display* display, XErrorEvent* event);
 void zAppErrorHandler(char* message);
+// Of the toolkit's errors. The toolkit is built not to go on behind one, so neither does this.
+void zAppFatalErrorHandler(char* message) __attribute__((noreturn));

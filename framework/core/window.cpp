@@ -359,6 +359,20 @@ void zWindow::ziSetFocusHandler() {
   XmProcessTraversal(widget, XmTRAVERSE_CURRENT);  // and inside it
 }
 
+// Mouse.
+
+void zWindow::captureMouse(Time time) {
+  constexpr unsigned mask =
+      ButtonPressMask | ButtonReleaseMask | PointerMotionMask | EnterWindowMask | LeaveWindowMask;
+  captured_ = drawnWidget() && XtGrabPointer(drawnWidget(), False, mask, GrabModeAsync,
+                                             GrabModeAsync, None, None, time) == GrabSuccess;
+}
+
+void zWindow::releaseMouse() {
+  if (captured_ && drawnWidget()) XtUngrabPointer(drawnWidget(), CurrentTime);
+  captured_ = false;
+}
+
 void ziChildFocusHelper(zWindow* window, bool gained) {
   if (!gained) return;
   zWindow* previous = focusWindow;

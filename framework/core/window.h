@@ -15,6 +15,7 @@
 
 #include "framework/core/event.h"
 #include "framework/core/notify.h"
+#include "framework/core/window_style.h"
 #include "framework/drawing/color.h"
 #include "framework/drawing/font.h"
 #include "framework/layout/sizer.h"
@@ -22,25 +23,6 @@
 class zCursor;
 class zFrameWin;
 class zResId;
-
-// Window styles: the bits of a Windows dialog template that mean something here.
-enum zWindowStyle : unsigned long {
-  zStylePopup = 0x80000000,
-  zStyleChild = 0x40000000,
-  zStyleVisible = 0x10000000,
-  zStyleDisabled = 0x08000000,
-  zStyleClipSiblings = 0x04000000,
-  zStyleClipChildren = 0x02000000,
-  zStyleCaption = 0x00C00000,
-  zStyleVScroll = 0x00200000,
-  zStyleHScroll = 0x00100000,
-  zStyleSysMenu = 0x00080000,
-  zStyleThickFrame = 0x00040000,
-  zStyleGroup = 0x00020000,     // of a control: the first of a group
-  zStyleMinimize = 0x00020000,  // of a frame
-  zStyleTabStop = 0x00010000,   // of a control: in the tab order
-  zStyleMaximize = 0x00010000,  // of a frame
-};
 
 // The client data of every X event handler and Motif callback of a window: outlives the object when
 // another takes its place.
@@ -112,6 +94,12 @@ class zWindow : public zEvH {
   virtual void childFocusChange(zWindow* from, zWindow* to);
   // Takes effect 150 ms later; a second call within that time replaces the first.
   void setFocus();
+
+  // From the capture on the window gets all mouse events, wherever the pointer goes. Without it the
+  // windows under the pointer would, since the framework asks for button events on all of them.
+  // `time` is that of the press.
+  void captureMouse(Time time);
+  void releaseMouse();
 
   // Handlers of any message, whatever its id.
   void setHandler(zEventHandler handler, unsigned message);
@@ -240,6 +228,7 @@ class zWindow : public zEvH {
   Widget mainWidget_ = nullptr;
   Widget scrolledWidget_ = nullptr;
   XtIntervalId pendingFocus_ = 0;
+  bool captured_ = false;
   std::unique_ptr<ziControlCB> link_;
   std::list<Listener> listeners_;
 };

@@ -59,8 +59,9 @@ zDialogFrame::zDialogFrame(zWindow* parent, zSizer* sizer, unsigned long style, 
 
 zDialogFrame::~zDialogFrame() {
   cancelPendingShow();
-  if (shell()) XmRemoveWMProtocolCallback(shell(), deleteWindowAtom(), closeCB, link());
   if (ziActiveDialog == workArea_) ziActiveDialog = nullptr;
+  if (isDestroyed()) return;  // the shell went with that of the dialog this one stood over
+  if (shell()) XmRemoveWMProtocolCallback(shell(), deleteWindowAtom(), closeCB, link());
   // The shell takes all widgets below it along, so the children must not touch theirs.
   unlisten();
   zAppDoSetAllDestroyed(this);
@@ -154,10 +155,21 @@ void zDialogFrame::getInterior(zRect& rect) const {
 
 void zDialogFrame::vmove(int x, int y, int width, int height) {
   zFrameWin::vmove(x, y, width, height);
+  sizeBoards(width, height);
+}
+
+void zDialogFrame::sizeBoards(int width, int height) {
   if (!workArea_) return;
   for (const Widget board : {outerBoard_, workArea_}) {
     XtVaSetValues(board, XmNwidth, width, XmNheight, height, nullptr);
   }
+}
+
+// The shell was moved or, by the user, given another size, which its contents take over.
+int zDialogFrame::move(zMoveEvt* event) {
+  const XConfigureEvent& now = event->xEvent->xconfigure;
+  if (now.window == XtWindow(shell())) sizeBoards(now.width, now.height);
+  return 0;
 }
 
 void zDialogFrame::setMinimumSize(const zDimension& size) {

@@ -50,6 +50,7 @@ class zDialogFrame : public zFrameWin {
   void ziBackgroundColor(const zColor& color) override;
   void getInterior(zRect& rect) const override;
   void vmove(int x, int y, int width, int height) override;
+  int move(zMoveEvt* event) override;
 
   // The template's group boxes and the area that each covers, below its title.
   struct Group {
@@ -67,6 +68,7 @@ class zDialogFrame : public zFrameWin {
 
  private:
   void createBoards(Widget shell);
+  void sizeBoards(int width, int height);
   void createShell();
   void createFromTemplate();
   void bringUp();

@@ -5,7 +5,8 @@
 zColorMap* ziClrm = nullptr;
 
 unsigned long zColorMap::pixel(const zColor& color) {
-  const std::uint32_t key = color.red << 16 | color.green << 8 | color.blue;
+  const std::uint32_t key =
+      std::uint32_t{color.red} << 16 | std::uint32_t{color.green} << 8 | color.blue;
   if (const auto known = pixels_.find(key); known != pixels_.end()) return known->second;
 
   Display* display = app->display();

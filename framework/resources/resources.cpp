@@ -4,6 +4,8 @@
 
 #include "framework/resources/images.h"
 
+const char* zAppDefResource = zCompiledIn;
+
 zFoundResource zAppFindResource(int id, int kind) {
   switch (kind) {
     case zResCursor:
@@ -22,7 +24,8 @@ zFoundResource zAppFindResource(int id, int kind) {
 }
 
 const void* ziLockResource(const zResId& id, int kind) {
-  if (id.moduleName() || id.isResIdString()) return nullptr;  // there are no external files
+  const char* module = id.moduleName() ? id.moduleName() : zAppDefResource;
+  if (module != zCompiledIn || id.isResIdString()) return nullptr;  // there are no external files
   return zAppFindResource(id.intId(), kind).data;
 }
 

@@ -67,6 +67,11 @@ struct zFoundResource {
   int id = 0;
 };
 
+// The module of resources that an id without one means: all ones for those compiled in, the only
+// ones there are.
+inline const char* const zCompiledIn = reinterpret_cast<const char*>(~std::uintptr_t{0});
+extern const char* zAppDefResource;
+
 // Finds the resource `id` of the given kind. The data are constant and live as long as the program.
 zFoundResource zAppFindResource(int id, int kind);
 

@@ -13,10 +13,10 @@ constexpr std::uint32_t panelFrame = label | 7;
 constexpr std::uint32_t separator = label | 8;
 constexpr std::uint32_t groupBox = label | 7;
 constexpr std::uint32_t pictureLeft = tab | 0x800;
-constexpr std::uint32_t pictureLeftToggle = pictureLeft | 0x200;
+constexpr std::uint32_t pictureLeftToggle = pictureLeft | 0x220;
 
 // The maker's picture: clickable, flat, and no stop for Tab.
-constexpr std::uint32_t logo = label | 0x4000;
+constexpr std::uint32_t logo = label | 0x2000;
 
 constexpr zControlRecord end{0, nullptr, 0, nullptr, 0, 0, 0, 0, 0};
 
@@ -24,7 +24,7 @@ constexpr zControlRecord mainControls[] = {
     {zAtomStatic, nullptr, 100, "ATM Adapter Interfaces:", label, 7, 7, 208, 9},
     {0, "zTable", 101, nullptr, tab, 7, 18, 208, 72},
     {zAtomStatic, nullptr, 102, nullptr, panelFrame, 7, 97, 208, 20},
-    {zAtomStatic, nullptr, 112, "Driver Version:", label, 13, 101, 52, 9},
+    {zAtomStatic, nullptr, 112, "Driver Version:", label, 13, 100, 52, 13},
     {zAtomEdit, nullptr, 103, nullptr, readOnlyEdit, 67, 100, 142, 13},
     {0, "zGroupBox3dClass", 104, "Actions", groupBox, 221, 7, 58, 110},
     {0, "zBmpBtnClass", 107, "De-Activate", pictureLeftToggle, 225, 19, 50, 15},

@@ -14,15 +14,6 @@ namespace {
 const zPrPoint labelPoints(0, 100);
 constexpr int labelWeight = 300;
 
-// The whole keyboard belongs to the table's own handler, but for what moves the focus or ends the
-// dialog. Return would press the dialog's default button otherwise.
-constexpr char translations[] =
-    "~s ~m ~a <Key>Tab: ManagerGadgetNextTabGroup()\n"
-    "s ~m ~a <Key>Tab: ManagerGadgetPrevTabGroup()\n"
-    "<Key>osfCancel: ManagerParentCancel()\n"
-    "<FocusIn>: ManagerFocusIn()\n"
-    "<FocusOut>: ManagerFocusOut()\n";
-
 }  // namespace
 
 std::string numToAlphaLabel(unsigned long number) {
@@ -72,7 +63,6 @@ int zTable::create() {
   zPane::create();
   const Widget board = getContainer();
   XtVaSetValues(board, XmNshadowThickness, zTableBorder, XmNshadowType, XmSHADOW_IN, nullptr);
-  XtVaSetValues(getWidget(), XmNtranslations, XtParseTranslationTable(translations), nullptr);
   scrollers_[zTLabelColumns] = std::make_unique<ziTableScroller>(
       board, ziTableScroller::across, zAction<void>(this, &zTable::scrolledAcross));
   scrollers_[zTLabelRows] = std::make_unique<ziTableScroller>(

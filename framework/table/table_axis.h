@@ -19,7 +19,7 @@ class ziTableAxis {
   // The pixels in front of number `n`.
   int start(unsigned long n) const;
   int end(unsigned long n) const { return start(n) + size(n); }
-  int total() const { return start(count_ + 1); }
+  int total() const { return count_ ? end(count_) : 0; }
   // The number that lies at a pixel: 0 in front of the first and behind the last.
   unsigned long at(int pixel) const;
   // The next pixel, from `pixel` on, at which a number starts.

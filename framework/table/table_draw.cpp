@@ -62,9 +62,9 @@ ziTableEnv zTable::envOf(const zTableLoc& cell) const {
   return env;
 }
 
-// One cell alone is marked by its frame.
+// The active cell is marked by its frame.
 bool zTable::showsAsSelected(const zTableLoc& cell) const {
-  return selection_.contains(cell) && !(selection_ == zTableRegion(active_));
+  return selection_.contains(cell) && cell != active_;
 }
 
 // A cell ends in a line of the grid at its right and at its bottom.

@@ -144,6 +144,7 @@ int zTable::mouseButtonDown(zMouseClickEvt* event) {
   zWindowWatch watch(this);
   XmProcessTraversal(getWidget(), XmTRAVERSE_CURRENT);
   if (watch.gone()) return 1;
+  captureMouse(event->xEvent->xbutton.time);
   dragFrom_ = event->pos();
   dragged_ = hitAt(dragFrom_);
   pressed(dragged_);
@@ -170,6 +171,7 @@ void zTable::pressed(const Hit& hit) {
 int zTable::mouseButtonUp(zMouseClickEvt* event) {
   if (!event->isButton(1)) return 0;
   dragged_ = {};
+  releaseMouse();
   return 1;
 }
 
