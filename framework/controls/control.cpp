@@ -42,10 +42,17 @@ std::vector<Arg> zControl::commonArgs() const {
 int zControl::adoptWidget(Widget real, Widget scrolled) {
   setWidgets(real, scrolled);
   const Widget target = drawnWidget();
+  setColors(target, backgroundColor());
   link()->control = target;
   link()->kind = subType_;
   XtInsertEventHandler(target, ziWindowEventMask, False, CtrlProc, link(), XtListHead);
   return 1;
+}
+
+// Shadows included, so that nothing in the resource database shows through.
+void zControl::setColors(Widget widget, const zColor& background) const {
+  XmChangeColor(widget, ziClrm->pixel(background));
+  XtVaSetValues(widget, XmNforeground, ziClrm->pixel(textColor_), nullptr);
 }
 
 void zControl::addCallback(Widget widget, const char* list, XtCallbackProc procedure) {

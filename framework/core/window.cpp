@@ -208,7 +208,7 @@ int zWindow::show(int visible) {
 }
 
 void zWindow::update() {
-  if (mainWidget_) XmUpdateDisplay(mainWidget_);
+  if (mainWidget_ && XtIsRealized(mainWidget_)) XmUpdateDisplay(mainWidget_);
 }
 
 void zWindow::setDirty(const zRect* rect, int erase) {

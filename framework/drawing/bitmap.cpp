@@ -70,9 +70,7 @@ Pixmap toPixmap(const ziPixels& pixels) {
     }
   }
   const Pixmap pixmap = XCreatePixmap(display, DefaultRootWindow(display), width, height, depth);
-  const GC gc = XCreateGC(display, pixmap, 0, nullptr);
-  XPutImage(display, pixmap, gc, image, 0, 0, 0, 0, width, height);
-  XFreeGC(display, gc);
+  XPutImage(display, pixmap, DefaultGC(display, screen), image, 0, 0, 0, 0, width, height);
   XDestroyImage(image);
   return pixmap;
 }

@@ -18,8 +18,9 @@ constexpr zColor zWhite{255, 255, 255};
 constexpr zColor zDialogGrey{192, 192, 192};
 constexpr zColor zShadowGrey{128, 128, 128};
 
-// Asks the server once for each colour. A colour asked for twice gives the same pixel; one that the
-// server refuses gives the nearer of black and white.
+// Where pixels are made of their components, as on nearly every screen, a pixel is reckoned here.
+// Elsewhere the server is asked once for each colour; one that it refuses gives the nearer of black
+// and white. A colour asked for twice gives the same pixel.
 class zColorMap {
  public:
   unsigned long pixel(const zColor& color);

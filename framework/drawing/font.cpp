@@ -39,6 +39,12 @@ int sizeField(const char* name) {
   return std::atoi(name);
 }
 
+// Whether one X font realises both.
+bool looksAlike(const zFontSpec& a, const zFontSpec& b) {
+  return a.pointSize() == b.pointSize() && a.isBold() == b.isBold() &&
+         a.isItalic() == b.isItalic() && a.faceName() == b.faceName();
+}
+
 // The bitmap font of this family whose size is nearest, or null. Scaled ones are passed over.
 XFontStruct* loadNearest(Display* display, const zFontSpec& spec) {
   int count = 0;
@@ -105,10 +111,10 @@ ziRealFont::~ziRealFont() {
 
 const ziRealFont* ziFontDict::find(const zFontSpec& spec) {
   const auto hash = std::hash<std::string>{}(spec.faceName()) +
-                    static_cast<std::size_t>(spec.pointSize() * 31 + spec.weight());
+                    static_cast<std::size_t>(spec.pointSize() * 2 + spec.isBold());
   auto& bucket = fonts_[hash % buckets];
   for (const auto& font : bucket) {
-    if (font->spec == spec) return font.get();
+    if (looksAlike(font->spec, spec)) return font.get();
   }
   bucket.push_front(std::make_unique<ziRealFont>(spec, load(app->display(), spec)));
   return bucket.front().get();

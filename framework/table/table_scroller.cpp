@@ -27,6 +27,7 @@ void ziTableScroller::place(const zRect& place) {
 
 void ziTableScroller::set(int total, int seen, int offset, int step) {
   value_ = offset;
+  if (!XtIsManaged(bar_)) return;  // set again when it is placed
   const int slider = std::max(seen, 1);
   const int maximum = std::max(total, offset + slider);
   XtVaSetValues(bar_, XmNminimum, 0, XmNmaximum, maximum, XmNsliderSize, slider, XmNvalue, offset,
