@@ -33,7 +33,7 @@ constexpr zControlRecord mainControls[] = {
     {0, "zBmpBtnClass", 108, " Global", pictureLeft, 225, 73, 50, 15},
     {zAtomStatic, nullptr, 109, nullptr, separator, 225, 92, 50, 1},
     {0, "zBmpBtnClass", 110, "Close", pictureLeft, 225, 96, 50, 15},
-    {0, "zBmpBtnClass", 111, " ", logo, 7, 122, 272, 19},
+    {0, "zBmpBtnClass", 111, " ", logo, 7, 124, 272, 19},
     end,
 };
 
