@@ -47,7 +47,7 @@ const char* findMark(const char* from, const char* end) {
 // before, right behind the terminator.
 std::ptrdiff_t readLine(char (&line)[sectLineBytes], std::FILE* file) {
   std::memset(line, '\n', sizeof line);
-  if (std::fgets(line, sizeof line, file) == nullptr) {
+  if (fgets_unlocked(line, sizeof line, file) == nullptr) {
     line[0] = '\0';
     return 0;
   }
@@ -226,6 +226,7 @@ void SectNameRev(SectHandle* handle) {
 }
 
 bool SectScanLine(SectHandle* handle, std::string_view path) {
+  if (!holdsBracket(handle)) return false;
   const char* end = lineEnd(handle);
   for (const char* mark = findMark(handle->linebuf, end); mark != end && *mark != '#';
        mark = findMark(mark + 1, end)) {
