@@ -194,7 +194,7 @@ void DMainDlg::readMaxVc(int adapter) {
     vcs = assumedVcs;
     odlog << "  Max VC set to 1024." << std::endl;
   }
-  atmDevices.sig[adapter].VciHigh = vcs;
+  atmDevices.sig[adapter].VciHigh = static_cast<std::int32_t>(vcs);
 }
 
 void DMainDlg::SetDlgTitle() {

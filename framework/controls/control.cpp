@@ -42,10 +42,17 @@ std::vector<Arg> zControl::commonArgs() const {
 int zControl::adoptWidget(Widget real, Widget scrolled) {
   setWidgets(real, scrolled);
   const Widget target = drawnWidget();
+  setColors(target, backgroundColor());
   link()->control = target;
   link()->kind = subType_;
   XtInsertEventHandler(target, ziWindowEventMask, False, CtrlProc, link(), XtListHead);
   return 1;
+}
+
+// Shadows included, so that nothing in the resource database shows through.
+void zControl::setColors(Widget widget, const zColor& background) const {
+  XmChangeColor(widget, ziClrm->pixel(background));
+  XtVaSetValues(widget, XmNforeground, ziClrm->pixel(textColor_), nullptr);
 }
 
 void zControl::addCallback(Widget widget, const char* list, XtCallbackProc procedure) {
@@ -79,6 +86,24 @@ bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
   return !plain || key.alt() || key.ctrl();
 }
 
+void zControl::keyPressedOrReleased(XEvent* event) {
+  const bool pressed = event->type == KeyPress;
+  zKeyEvt key = ziKeyEvent(this, event, pressed ? zMsgKeyDown : zMsgKeyUp);
+  if (!keyReachesHandlers(this, key)) return;
+  zWindowWatch watch(this);
+  if (doCommandHandler(&key, this) || watch.gone()) return;
+  if (!pressed || subType_ == subTypeEdit || ziCharactersOf(event).empty()) return;
+  key.message = zMsgChar;
+  ch(&key);
+}
+
+void zControl::crossed(XEvent* event) {
+  zEvent crossing;
+  crossing.xEvent = event;
+  crossing.window = this;
+  dispatch(&crossing);
+}
+
 void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   zMouseClickEvt click;
   click.xEvent = event;
@@ -99,17 +124,9 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
   if (!control) return;
   switch (event->type) {
     case KeyPress:
-    case KeyRelease: {
-      zKeyEvt key = ziKeyEvent(control, event, event->type == KeyPress ? zMsgKeyDown : zMsgKeyUp);
-      if (!keyReachesHandlers(control, key)) break;
-      zWindowWatch watch(control);
-      if (doCommandHandler(&key, control) || watch.gone()) break;
-      if (event->type == KeyPress && control->subType_ != subTypeEdit) {
-        key.message = zMsgChar;
-        control->ch(&key);
-      }
+    case KeyRelease:
+      control->keyPressedOrReleased(event);
       break;
-    }
     case ButtonPress:
       control->mousePressed(event, goOn);
       break;
@@ -125,20 +142,15 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
       ziFocusEvent(control, event);
       break;
     case EnterNotify:
-    case LeaveNotify: {
-      zEvent crossing;
-      crossing.xEvent = event;
-      crossing.window = control;
-      control->dispatch(&crossing);
+    case LeaveNotify:
+      control->crossed(event);
       break;
-    }
-    case MapNotify: {
+    case MapNotify:
       if (control->isA(zTypeGroupBox)) {
         XLowerWindow(XtDisplay(widget), XtWindow(XtParent(widget)));
       }
       control->defineCursor();
       break;
-    }
     default:
       if (event->type < KeyPress || event->type > MappingNotify) debug("Invalid event type");
   }

@@ -33,6 +33,9 @@ class zControl : public zChildWin {
   // the window's font and colours. Returns non-zero.
   int adoptWidget(Widget real, Widget scrolled = nullptr);
 
+  // Gives a widget of this control a background, the shadows that go with it, and the text colour.
+  void setColors(Widget widget, const zColor& background) const;
+
   // A Motif callback of this control whose client data is the control's ziControlCB.
   void addCallback(Widget widget, const char* list, XtCallbackProc procedure);
   // Sends a command event with a notification code to the parent.
@@ -49,7 +52,9 @@ class zControl : public zChildWin {
  private:
   static void CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
   static bool keyReachesHandlers(const zControl* control, const zKeyEvt& key);
+  void keyPressedOrReleased(XEvent* event);
   void mousePressed(XEvent* event, Boolean* goOn);
+  void crossed(XEvent* event);
 
   zColor textColor_ = zBlack;
   int subType_;

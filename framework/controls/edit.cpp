@@ -48,10 +48,10 @@ void zEditBase::createText() {
   if (getFont()) add(XmNfontList, reinterpret_cast<XtArgVal>(getFont()->fontList()));
   const Widget text = XtCreateManagedWidget("TextField", xmTextWidgetClass, row, args.data(),
                                             static_cast<Cardinal>(args.size()));
-  XtVaSetValues(text, XmNbackground, ziClrm->pixel(readOnly ? backgroundColor() : zWhite), nullptr);
   if (!multiLine) centreLine(text);
   ziSetText(text, title());
   adoptWidget(row, text);
+  if (!readOnly) setColors(text, zWhite);
   addCallback(text, XmNmodifyVerifyCallback, modifyCB);
   addCallback(text, XmNvalueChangedCallback, changedCB);
   addCallback(text, XmNfocusCallback, focusCB);
@@ -104,7 +104,7 @@ void zEditBase::limitText(int length) {
 }
 
 void zEditBase::editBackgroundColor(const zColor& color) {
-  if (textWidget()) XmChangeColor(textWidget(), ziClrm->pixel(color));
+  if (textWidget()) setColors(textWidget(), color);
 }
 
 // Selection and clipboard.

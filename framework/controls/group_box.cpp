@@ -39,6 +39,12 @@ void zGroupBox::createTitle(const char* title) {
                                    XmALIGNMENT_BEGINNING, XmNchildVerticalAlignment,
                                    XmALIGNMENT_CENTER, XmNlabelString, text.get(), XmNfontList,
                                    getFont() ? getFont()->fontList() : nullptr, nullptr);
+  colorTitle(backgroundColor());
+}
+
+void zGroupBox::colorTitle(const zColor& background) {
+  XtVaSetValues(label_, XmNbackground, ziClrm->pixel(background), XmNforeground,
+                ziClrm->pixel(textColor()), nullptr);
 }
 
 void zGroupBox::doText(const char* value) {
@@ -55,6 +61,7 @@ void zGroupBox::doText(const char* value) {
 void zGroupBox::ziBackgroundColor(const zColor& color) {
   zButton::ziBackgroundColor(color);
   if (!getWidget()) return;
+  if (label_) colorTitle(color);
   const Widget area = XtNameToWidget(getWidget(), "WorkArea");
   if (area) XmChangeColor(area, ziClrm->pixel(color));
 }

@@ -19,6 +19,7 @@ class zGroupBox : public zButton {
  private:
   void createFrame();
   void createTitle(const char* title);
+  void colorTitle(const zColor& background);
 
   Widget label_ = nullptr;
 };

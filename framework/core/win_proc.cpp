@@ -114,24 +114,28 @@ void ziFocusEvent(zWindow* window, XEvent* event) {
   if (!watch.gone()) ziChildFocusHelper(window, gained);
 }
 
-bool ziMouseReleased(zWindow* window, XEvent* event) {
-  zMouseClickEvt click;
-  click.xEvent = event;
-  click.window = window;
-  click.message = zMsgButtonUp;
+namespace {
+
+// Handlers where the event map has the message, then the virtual. Whether it was consumed.
+template <class View>
+bool offerMouse(zWindow* window, XEvent* event, unsigned message, int (zWindow::*take)(View*)) {
+  View mouse;
+  mouse.xEvent = event;
+  mouse.window = window;
+  mouse.message = message;
   zWindowWatch watch(window);
-  if (window->eventMapHas(zMsgButtonUp) && doHandler(&click, window)) return true;
-  return !watch.gone() && window->mouseButtonUp(&click);
+  if (window->eventMapHas(message) && doHandler(&mouse, window)) return true;
+  return !watch.gone() && (window->*take)(&mouse);
+}
+
+}  // namespace
+
+bool ziMouseReleased(zWindow* window, XEvent* event) {
+  return offerMouse(window, event, zMsgButtonUp, &zWindow::mouseButtonUp);
 }
 
 bool ziMouseMoved(zWindow* window, XEvent* event) {
-  zMouseMoveEvt move;
-  move.xEvent = event;
-  move.window = window;
-  move.message = zMsgMouseMove;
-  zWindowWatch watch(window);
-  if (window->eventMapHas(zMsgMouseMove) && doHandler(&move, window)) return true;
-  return !watch.gone() && window->mouseMove(&move);
+  return offerMouse(window, event, zMsgMouseMove, &zWindow::mouseMove);
 }
 
 void ziWinProc(Widget, XtPointer link, XEvent* event, Boolean*) {

@@ -59,8 +59,9 @@ zDialogFrame::zDialogFrame(zWindow* parent, zSizer* sizer, unsigned long style, 
 
 zDialogFrame::~zDialogFrame() {
   cancelPendingShow();
-  if (shell()) XmRemoveWMProtocolCallback(shell(), deleteWindowAtom(), closeCB, link());
   if (ziActiveDialog == workArea_) ziActiveDialog = nullptr;
+  if (isDestroyed()) return;  // the shell went with that of the dialog this one stood over
+  if (shell()) XmRemoveWMProtocolCallback(shell(), deleteWindowAtom(), closeCB, link());
   // The shell takes all widgets below it along, so the children must not touch theirs.
   unlisten();
   zAppDoSetAllDestroyed(this);

@@ -29,6 +29,7 @@ constexpr BoxType boxTypes[] = {
     {{{"Retry", 4}, {"Cancel", 2}, none}},
 };
 constexpr unsigned okCancel = 1;
+constexpr int buttonMargin = 12;  // pixels beside a label
 
 // Motif's three buttons, in the order of a box's buttons.
 struct Slot {
@@ -82,6 +83,12 @@ Widget shellOf(zWindow* window) {
   return widget ? widget : app->toplevel();
 }
 
+void useFont(Widget box, XmFontList fonts) {
+  XtVaSetValues(box, XmNlabelFontList, fonts, XmNbuttonFontList, fonts, nullptr);
+  ziSetFontList(XmMessageBoxGetChild(box, XmDIALOG_MESSAGE_LABEL), fonts);
+  for (const Slot& slot : slots) ziSetFontList(XmMessageBoxGetChild(box, slot.child), fonts);
+}
+
 }  // namespace
 
 zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigned style) {
@@ -89,14 +96,25 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   if (!shell) return;
   const Widget box = createBox(shell, text, title, style);
   labelButtons(box, style);
+  if (parent && parent->getFont()) useFont(box, parent->getFont()->fontList());
   XmAddWMProtocolCallback(
       XtParent(box), XmInternAtom(app->display(), const_cast<char*>("WM_DELETE_WINDOW"), False),
       doClose, this);
+  XtAddCallback(box, XmNdestroyCallback, destroyedCB, this);
   XtManageChild(box);
   XtPopup(XtParent(box), XtGrabNone);
-  while (!done_) XtAppProcessEvent(app->context(), XtIMAll);
+  while (!done_ && !destroyed_) XtAppProcessEvent(app->context(), XtIMAll);
+  if (destroyed_) return;
+  XtRemoveCallback(box, XmNdestroyCallback, destroyedCB, this);
   XtUnmanageChild(box);
   XtDestroyWidget(XtParent(box));
+}
+
+// The window that the box stands over was deleted, and the box with it: as if it had been closed.
+void zMessage::destroyedCB(Widget, XtPointer message, XtPointer) {
+  auto* self = static_cast<zMessage*>(message);
+  self->answer(1);
+  self->destroyed_ = true;
 }
 
 Widget zMessage::createBox(Widget shell, const char* text, const char* title, unsigned style) {
@@ -133,7 +151,7 @@ void zMessage::labelButtons(Widget box, unsigned style) {
     }
     const ziXmString label(wanted.label);
     XtVaSetValues(box, slots[i].label, label.get(), nullptr);
-    XtVaSetValues(button, XmNtraversalOn, True, nullptr);
+    XtVaSetValues(button, XmNtraversalOn, True, XmNmarginWidth, buttonMargin, nullptr);
     buttonResults_[i] = wanted.result;
   }
 }

@@ -10,7 +10,7 @@
 #include "framework/drawing/color.h"
 #include "framework/resources/resources.h"
 
-static_assert(zCursor::arrow == XC_arrow && zCursor::wait == XC_watch);
+static_assert(zCursor::arrow == XC_arrow && zCursor::watch == XC_watch);
 
 namespace {
 
@@ -84,12 +84,14 @@ Pixmap toPixmap(const ziPixels& pixels) {
 // A one-bit image of the pixels for which `isSet` answers true.
 template <class IsSet>
 Pixmap toBitmap(const zDimension& size, IsSet isSet) {
-  const int stride = (size.width + 7) / 8;
-  std::vector<char> bits(static_cast<std::size_t>(stride * size.height));
+  const auto stride = static_cast<std::size_t>(size.width + 7) / 8;
+  std::vector<char> bits(stride * static_cast<std::size_t>(size.height));
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) {
-      if (isSet(x, y))
-        bits[static_cast<std::size_t>(y * stride + x / 8)] |= static_cast<char>(1 << x % 8);
+      if (!isSet(x, y)) continue;
+      const std::size_t byte =
+          static_cast<std::size_t>(y) * stride + static_cast<std::size_t>(x / 8);
+      bits[byte] |= static_cast<char>(1 << x % 8);
     }
   }
   return XCreateBitmapFromData(app->display(), DefaultRootWindow(app->display()), bits.data(),

@@ -69,7 +69,7 @@ class zIcon {
 class zCursor {
  public:
   // Numbers of the X cursor font.
-  enum Stock : unsigned { arrow = 2, wait = 150 };
+  enum Stock : unsigned { arrow = 2, watch = 150 };
 
   explicit zCursor(Stock shape);
   // From the cursor resource `id`.

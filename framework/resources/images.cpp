@@ -22,7 +22,7 @@ struct Entry {
   const unsigned char* data;
 };
 
-const Entry kEntries[] = {
+const Entry entries[] = {
     {zResCursor, 30000, 30000, imageColumnCursor},
     {zResCursor, 30001, 30001, imageRowCursor},
     {zResBitmap, 500, 500, imageSetup},
@@ -59,8 +59,8 @@ const Entry kEntries[] = {
 }  // namespace
 
 const unsigned char* ziFindImage(int id, int kind) {
-  const auto* found = std::find_if(std::begin(kEntries), std::end(kEntries), [&](const Entry& e) {
+  const auto* found = std::find_if(std::begin(entries), std::end(entries), [&](const Entry& e) {
     return e.kind == kind && e.first <= id && id <= e.last;
   });
-  return found == std::end(kEntries) ? nullptr : found->data;
+  return found == std::end(entries) ? nullptr : found->data;
 }

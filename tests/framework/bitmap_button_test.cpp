@@ -196,7 +196,7 @@ TEST(BitmapButton, IsReachedByTabAndPressedBySpace) {
   EXPECT_EQ(frameShown(*last), 0);
   EXPECT_THAT(form.heard, ElementsAre("notified"));
 
-  for (const KeySym lock : {XK_Num_Lock, XK_Caps_Lock}) {
+  for (const KeySym lock : {KeySym{XK_Num_Lock}, KeySym{XK_Caps_Lock}}) {
     form.heard.clear();
     x_driver::key(lock);
     x_driver::key(XK_space);
@@ -217,7 +217,7 @@ TEST(BitmapButton, OffersAClickUntilItIsConsumed) {
     form.heard.clear();
     form.consumer = all[i];
     x_driver::click(*button, middle);
-    EXPECT_EQ(form.heard, std::vector<std::string>(all.begin(), all.begin() + i + 1));
+    EXPECT_EQ(form.heard, std::vector<std::string>(all.data(), all.data() + i + 1));
   }
 }
 

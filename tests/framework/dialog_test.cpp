@@ -150,6 +150,19 @@ TEST(Form, MayRefuseToClose) {
   EXPECT_EQ(form.closeRequests, 2);
 }
 
+TEST(Form, TakesTheDialogsOverItAlong) {
+  auto below = std::make_unique<TestForm>();
+  below->show(1);
+  ASSERT_TRUE(x_driver::show(*below));
+  auto* over = new zFormDialog(below.get(), zResId(plainForm), 0);
+  over->show(1);
+  ASSERT_TRUE(x_driver::show(*over));
+  const zWindowWatch watch(over);
+  below.reset();
+  EXPECT_TRUE(watch.gone());
+  x_driver::settle();
+}
+
 TEST(Modal, LoopsNestAndTimersRunOnTopOfThem) {
   TestForm outer, inner;
   int ticks = 0;
@@ -277,6 +290,14 @@ TEST(Message, ReturnsTheAnswerOfEachType) {
       EXPECT_EQ(box.result(), c.result) << std::hex << c.style;
     }
   }
+}
+
+TEST(Message, EndsWithTheWindowItStandsOver) {
+  auto form = std::make_unique<TestForm>();
+  form->show(1);
+  ASSERT_TRUE(x_driver::show(*form));
+  Later deletes(300, [&] { form.reset(); });
+  EXPECT_EQ(zMessage(form.get(), "text", "caption", 0x24).result(), 7);
 }
 
 TEST(Message, BlocksOnlyTheHandlerThatRaisedIt) {

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr unsigned kFrames = 6;
-constexpr std::array<unsigned char, 4> kDialogGrey = {192, 192, 192, 0};
+constexpr unsigned frames = 6;
+constexpr std::array<unsigned char, 4> dialogGrey = {192, 192, 192, 0};
 
 unsigned word16(const unsigned char* at) {
   return at[0] | unsigned{at[1]} << 8;
@@ -37,8 +37,8 @@ struct Bitmap {
   std::vector<std::array<unsigned char, 4>> frame(unsigned number) const {
     std::vector<std::array<unsigned char, 4>> pixels;
     for (unsigned y = 0; y < height; ++y)
-      for (unsigned x = 0; x < width / kFrames; ++x)
-        pixels.push_back(pixel(number * width / kFrames + x, y));
+      for (unsigned x = 0; x < width / frames; ++x)
+        pixels.push_back(pixel(number * width / frames + x, y));
     return pixels;
   }
 
@@ -51,7 +51,7 @@ struct BitmapCase {
   unsigned width, height;
 };
 
-const std::vector<BitmapCase> kBitmaps = {
+const std::vector<BitmapCase> bitmaps = {
     {{500}, 156, 20},
     {{501}, 132, 20},
     {{502}, 108, 20},
@@ -68,7 +68,7 @@ const std::vector<BitmapCase> kBitmaps = {
 };
 
 TEST(Images, BitmapsAreSixFramesOfTheirSize) {
-  for (const auto& expected : kBitmaps) {
+  for (const auto& expected : bitmaps) {
     SCOPED_TRACE(expected.ids[0]);
     const unsigned char* data = ziFindImage(expected.ids[0], zResBitmap);
     ASSERT_NE(data, nullptr);
@@ -86,18 +86,18 @@ TEST(Images, BitmapsAreSixFramesOfTheirSize) {
 }
 
 TEST(Images, FramesStandOnTheDialogsGrey) {
-  for (const auto& expected : kBitmaps) {
+  for (const auto& expected : bitmaps) {
     const Bitmap bitmap(ziFindImage(expected.ids[0], zResBitmap));
-    const unsigned width = bitmap.width / kFrames;
+    const unsigned width = bitmap.width / frames;
     for (unsigned left = 0; left < bitmap.width; left += width)
       for (unsigned x : {left, left + width - 1})
         for (unsigned y : {0U, bitmap.height - 1})
-          EXPECT_EQ(bitmap.pixel(x, y), kDialogGrey) << expected.ids[0] << " at " << x << ", " << y;
+          EXPECT_EQ(bitmap.pixel(x, y), dialogGrey) << expected.ids[0] << " at " << x << ", " << y;
   }
 }
 
 TEST(Images, StatesLookDifferent) {
-  for (const auto& expected : kBitmaps) {
+  for (const auto& expected : bitmaps) {
     SCOPED_TRACE(expected.ids[0]);
     const Bitmap bitmap(ziFindImage(expected.ids[0], zResBitmap));
     EXPECT_NE(bitmap.frame(0), bitmap.frame(1)) << "off, disabled";
