@@ -42,6 +42,21 @@ const char* findMark(const char* from, const char* end) {
   return from;
 }
 
+// Reads a line as fgets does and returns its length, which counts the NULs in it: the first line
+// feed of the buffer is the line's own if the terminator follows it, and otherwise what was there
+// before, right behind the terminator.
+std::ptrdiff_t readLine(char (&line)[sectLineBytes], std::FILE* file) {
+  std::memset(line, '\n', sizeof line);
+  if (fgets_unlocked(line, sizeof line, file) == nullptr) {
+    line[0] = '\0';
+    return 0;
+  }
+  const char* const feed = static_cast<const char*>(std::memchr(line, '\n', sizeof line));
+  if (feed == nullptr) return sectLineBytes - 1;
+  const bool isOwn = feed != line + sectLineBytes - 1 && feed[1] == '\0';
+  return (isOwn ? feed + 1 : feed - 1) - line;
+}
+
 bool holdsBracket(const SectHandle* handle) {
   const auto length = static_cast<std::size_t>(handle->lineLength);
   return std::memchr(handle->linebuf, '[', length) || std::memchr(handle->linebuf, ']', length);
@@ -153,16 +168,7 @@ SectHandle* ValidHandle(SectHandle* handle) {
 }
 
 int SectReadLine(SectHandle* handle) {
-  char* next = handle->linebuf;
-  const char* limit = handle->linebuf + sectLineBytes - 1;
-  while (next != limit) {
-    const int c = getc_unlocked(handle->rfd);
-    if (c == EOF) break;
-    *next++ = static_cast<char>(c);
-    if (c == '\n') break;
-  }
-  *next = '\0';
-  handle->lineLength = static_cast<std::int32_t>(next - handle->linebuf);
+  handle->lineLength = static_cast<std::int32_t>(readLine(handle->linebuf, handle->rfd));
   if (handle->lineLength == 0) return 0;
   ++handle->line;
   sectTrace("line %-3d %s", handle->line, handle->linebuf);
@@ -220,6 +226,7 @@ void SectNameRev(SectHandle* handle) {
 }
 
 bool SectScanLine(SectHandle* handle, std::string_view path) {
+  if (!holdsBracket(handle)) return false;
   const char* end = lineEnd(handle);
   for (const char* mark = findMark(handle->linebuf, end); mark != end && *mark != '#';
        mark = findMark(mark + 1, end)) {

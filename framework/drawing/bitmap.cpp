@@ -50,6 +50,11 @@ int indexAt(const unsigned char* row, int x, int bitsPerPixel) {
   return row[x / perByte] >> shift & ((1 << bitsPerPixel) - 1);
 }
 
+unsigned long pixelOf(std::uint32_t rgb) {
+  return ziClrm->pixel({static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
+                        static_cast<std::uint8_t>(rgb)});
+}
+
 Pixmap toPixmap(const ziPixels& pixels) {
   if (pixels.rgb.empty()) return None;
   Display* display = app->display();
@@ -61,12 +66,13 @@ Pixmap toPixmap(const ziPixels& pixels) {
                                width, height, 32, 0);
   image->data =
       static_cast<char*>(std::calloc(height, static_cast<std::size_t>(image->bytes_per_line)));
+  std::uint32_t last = 0;  // neighbours are often alike
+  unsigned long pixel = pixelOf(last);
   for (int y = 0; y < pixels.size.height; ++y) {
     for (int x = 0; x < pixels.size.width; ++x) {
       const std::uint32_t rgb = pixels.at(x, y);
-      const zColor color{static_cast<std::uint8_t>(rgb >> 16), static_cast<std::uint8_t>(rgb >> 8),
-                         static_cast<std::uint8_t>(rgb)};
-      XPutPixel(image, x, y, ziClrm->pixel(color));
+      if (rgb != last) pixel = pixelOf(last = rgb);
+      XPutPixel(image, x, y, pixel);
     }
   }
   const Pixmap pixmap = XCreatePixmap(display, DefaultRootWindow(display), width, height, depth);

@@ -1,5 +1,7 @@
 #include "framework/drawing/color.h"
 
+#include <bit>
+
 #include "framework/core/app.h"
 
 zColorMap* ziClrm = nullptr;
@@ -8,8 +10,8 @@ namespace {
 
 // A component on the scale of its bits in a pixel.
 unsigned long inBits(std::uint8_t component, unsigned long mask) {
-  const unsigned long lowest = mask & (~mask + 1);
-  return (component * (mask / lowest) + 127) / 255 * lowest;
+  const int shift = std::countr_zero(mask);
+  return (component * (mask >> shift) + 127) / 255 << shift;
 }
 
 unsigned long askServer(Display* display, const zColor& color) {
