@@ -7,6 +7,8 @@
 
 #include "tests/support/applet_process.h"
 
+constexpr char mainTitle[] = "Ondrelle v2.20";
+
 constexpr unsigned long green = 0x00ff00;
 constexpr unsigned long yellow = 0xffff00;
 constexpr unsigned long red = 0xff0000;
@@ -77,8 +79,7 @@ class Host {
 
 class MainWindow {
  public:
-  explicit MainWindow(const Person& person)
-      : window(person.await("Ondrelle v2.20")), person_(person) {}
+  explicit MainWindow(const Person& person) : window(person.await(mainTitle)), person_(person) {}
 
   void click(Spot spot) const {
     const auto [x, y] = pixels(spot);

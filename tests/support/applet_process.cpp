@@ -12,6 +12,9 @@
 namespace {
 
 constexpr uid_t nobody = 65534;
+// A hand is no faster than this between pressing and letting go. A program that captures the mouse
+// while a button is down may do so late for one that is.
+constexpr unsigned long handMs = 30;
 
 std::string contents(const std::string& path) {
   std::ifstream file(path);
@@ -160,8 +163,8 @@ void Person::moveTo(Window window, int x, int y) const {
 
 void Person::click(Window window, int x, int y) const {
   moveTo(window, x, y);
-  XTestFakeButtonEvent(display_, 1, True, CurrentTime);
-  XTestFakeButtonEvent(display_, 1, False, CurrentTime);
+  XTestFakeButtonEvent(display_, 1, True, handMs);
+  XTestFakeButtonEvent(display_, 1, False, handMs);
   XSync(display_, False);
 }
 
