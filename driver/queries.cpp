@@ -120,6 +120,7 @@ const suni_stats* aalInfo::GetSuniStats(unsigned char link, unsigned char unit) 
 const board_mac* aalInfo::GetBoardMacAddress(unsigned short board) {
   const QueryForm& form = formOf(Query::BoardMacAddress);
   prepareQuery(form, form.replyBytes);
+  std::memset(data(), 0, form.replyBytes);  // the rest of the input is not an earlier answer's
   data()[0] = static_cast<std::uint8_t>(board);
   header().SzIO = static_cast<std::uint16_t>(dataOffset() + form.replyBytes);
   return reinterpret_cast<const board_mac*>(send(form.logLine));
