@@ -58,3 +58,17 @@ bool PdfEdit::QueryValue(const char* key, void* dst, short type, long size, bool
   if (displayErrors_ && showError) DisplayError(key);
   return false;
 }
+
+bool PdfEdit::SetValue(const char* key, void* value, short type, long size, bool showError) {
+  status_ = failed;
+  checkSize("SetValue", key, type, size);
+  if (section_ != nullptr &&
+      WriteKey(section_.get(), key, value, type, static_cast<int>(size)) == 0) {
+    status_ = good;
+    return true;
+  }
+  odlog << "WriteKey error: " << key << ": " << status_ << std::endl;
+  if (displayErrors_ && showError) DisplayError(key);
+  odlog << "SetValue(" << key << ") failure." << std::endl;
+  return false;
+}

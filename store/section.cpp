@@ -15,8 +15,6 @@ static_assert(sizeof SectDmsg == 74 + 1);
 
 namespace {
 
-constexpr int sectWriteFlag = 2;
-
 bool isNameEnd(char c) {
   return isBlank(c) || isLineEnd(c) || c == '=' || c == '#' || c == '\0';
 }
@@ -35,26 +33,6 @@ std::string_view nameAt(const char* from, const char* end) {
 const char* skipBlanks(const char* from, const char* end) {
   while (from != end && isBlank(*from)) ++from;
   return from;
-}
-
-const char* findMark(const char* from, const char* end) {
-  while (from != end && *from != '[' && *from != ']' && *from != '#') ++from;
-  return from;
-}
-
-// Reads a line as fgets does and returns its length, which counts the NULs in it: the first line
-// feed of the buffer is the line's own if the terminator follows it, and otherwise what was there
-// before, right behind the terminator.
-std::ptrdiff_t readLine(char (&line)[sectLineBytes], std::FILE* file) {
-  std::memset(line, '\n', sizeof line);
-  if (fgets_unlocked(line, sizeof line, file) == nullptr) {
-    line[0] = '\0';
-    return 0;
-  }
-  const char* const feed = static_cast<const char*>(std::memchr(line, '\n', sizeof line));
-  if (feed == nullptr) return sectLineBytes - 1;
-  const bool isOwn = feed != line + sectLineBytes - 1 && feed[1] == '\0';
-  return (isOwn ? feed + 1 : feed - 1) - line;
 }
 
 bool holdsBracket(const SectHandle* handle) {
@@ -84,20 +62,68 @@ bool openForReading(SectHandle* handle, const char* file) {
   return true;
 }
 
-// Makes and positions the handle, as far as that goes; false leaves it for the caller to close.
-bool openOn(SectHandle* handle, const char* file, const char* sectionPath) {
-  if ((handle->rflg & sectWriteFlag) != 0) {
-    std::printf("OpenSection: File %s is open for reading only\n", file);
-    return false;
-  }
-  if (!openForReading(handle, file)) return false;
-  sectTrace("OpenSection: search=%s\n", sectionPath);
+// Loads the text behind the bracket `mark` of linebuf. Another bracket behind that one means that
+// the text is of another section already; reading doesn't mind, but nothing may be written to it.
+int loadBehind(SectHandle* handle, const char* mark) {
+  const bool shared = SectNextMark(handle, mark + 1) != nullptr;
+  const int length = ReadSectData(handle);
+  if (shared) handle->refusal = "Section Shares The Line Of Its Head";
+  return length;
+}
+
+// Positions the handle on the section, as far as that goes.
+bool findSection(SectHandle* handle, const char* path) {
+  sectTrace("OpenSection: search=%s\n", path);
   while (SectReadLine(handle) > 0) {
-    if (!SectScanLine(handle, sectionPath)) continue;
-    ReadSectData(handle);
-    return true;
+    if (!SectPutLine(handle)) {
+      std::printf("OpenSection: Error Writing File %s\n\n", handle->wfn);
+      break;
+    }
+    if (const char* mark = SectScanLine(handle, path)) {
+      loadBehind(handle, mark);
+      return true;
+    }
   }
-  return false;
+  // What can't be read may hold the section.
+  if (handle->wfd == nullptr || std::ferror(handle->rfd) != 0) return false;
+  sectTrace("calling CreateSection...for '%s'\n", path);
+  return CreateSection(handle, path) != nullptr;
+}
+
+// Opens the files and positions the handle; false leaves it for the caller to close.
+bool openOn(SectHandle* handle, const char* file, const char* sectionPath) {
+  if (!openForReading(handle, file)) return false;
+  if ((handle->rflg & sectWrite) != 0) {
+    handle->rflg &= ~sectCreated;
+    if (!SectOpenTemporary(handle)) return false;
+  }
+  return findSection(handle, sectionPath);
+}
+
+// Follows linebuf and the lines behind it to the next bracket of the path, or, as far as reading
+// goes, to where writing failed. Returns the length of the text there, 0 at the end of the file.
+int loadNext(SectHandle* handle, std::string_view path) {
+  for (;;) {
+    if (const char* mark = SectScanLine(handle, path)) return loadBehind(handle, mark);
+    if (SectReadLine(handle) == 0) return 0;
+    if (!SectPutLine(handle)) {
+      std::printf("OpenNext: Error Writing File %s\n\n", handle->wfn);
+      return ReadSectData(handle);
+    }
+  }
+}
+
+// Passes on `data`, and the line behind it if that is in neither file yet.
+bool passData(SectHandle* handle) {
+  if (handle->wfd == nullptr) return true;
+  const bool passed =
+      SectPut(handle, {handle->data, static_cast<std::size_t>(handle->dataLength)}) &&
+      (!handle->linePending || SectPutLine(handle));
+  if (!passed) std::printf("OpenNext: Error Writing File %s\n\n", handle->wfn);
+  handle->dataLength = 0;
+  handle->data[0] = '\0';
+  handle->linePending = false;
+  return passed;
 }
 
 }  // namespace
@@ -126,6 +152,7 @@ SectHandle* OpenSection(const char* file, const char* sectionPath, int flags) {
   handle->rflg = flags;
   if (openOn(handle, file, sectionPath)) return handle;
   sectTrace("OpenSectionBad: %s\n", sectionPath);
+  handle->wflg = 0;
   CloseSection(handle);
   return nullptr;
 }
@@ -133,11 +160,12 @@ SectHandle* OpenSection(const char* file, const char* sectionPath, int flags) {
 SectHandle* OpenNextSection(SectHandle* handle) {
   if (handle == nullptr) return nullptr;
   sectTrace("\nOpenNextSection: hd=%x sect=%s\n", sectTraceId(handle), handle->section);
+  // The path of a created section stands nowhere else.
+  if (handle->wfd != nullptr && (handle->rflg & sectCreated) != 0) return nullptr;
   char path[sectNameBytes];
   std::memcpy(path, handle->section, sizeof path);
-  do {
-    if (SectScanLine(handle, path)) return ReadSectData(handle) > 0 ? handle : nullptr;
-  } while (SectReadLine(handle) > 0);
+  if (passData(handle) && loadNext(handle, path) > 0) return handle;
+  handle->refusal = "No Section";
   return nullptr;
 }
 
@@ -150,6 +178,7 @@ void CloseSection(SectHandle* handle) {
     sectTrace("CloseSection: BAD cookie (h=%x c=%x)\n", sectTraceId(handle), handle->cookie);
     return;
   }
+  if (handle->wfd != nullptr) SectCommit(handle);
   sectTrace("CloseSection: rfn=%s\n", handle->rfn);
   if (handle->rfd != nullptr) std::fclose(handle->rfd);
   sectTrace("CloseSection: handle=0x%x\n", sectTraceId(handle));
@@ -168,7 +197,21 @@ SectHandle* ValidHandle(SectHandle* handle) {
 }
 
 int SectReadLine(SectHandle* handle) {
-  handle->lineLength = static_cast<std::int32_t>(readLine(handle->linebuf, handle->rfd));
+  char* next = handle->linebuf;
+  const char* limit = handle->linebuf + sectLineBytes - 1;
+  while (next != limit) {
+    const int c = getc_unlocked(handle->rfd);
+    if (c == EOF) break;
+    *next++ = static_cast<char>(c);
+    if (c == '\n') break;
+  }
+  if (std::ferror(handle->rfd) != 0) {
+    std::printf("SectReadLine: Error Reading File %s\n\n", handle->rfn);
+    SectDamage(handle);
+    next = handle->linebuf;
+  }
+  *next = '\0';
+  handle->lineLength = static_cast<std::int32_t>(next - handle->linebuf);
   if (handle->lineLength == 0) return 0;
   ++handle->line;
   sectTrace("line %-3d %s", handle->line, handle->linebuf);
@@ -178,9 +221,12 @@ int SectReadLine(SectHandle* handle) {
 int ReadSectData(SectHandle* handle) {
   handle->dataLength = 0;
   handle->data[0] = '\0';
+  handle->refusal = nullptr;
   while (SectReadLine(handle) > 0) {
     if (handle->dataLength + handle->lineLength > sectDataBytes) {
       std::printf("ReadSectData: Buffer Exceeded\n");
+      handle->refusal = "Section Exceeds Buffer";
+      handle->linePending = true;
       return 0;
     }
     std::memcpy(handle->data + handle->dataLength, handle->linebuf,
@@ -192,14 +238,23 @@ int ReadSectData(SectHandle* handle) {
   return handle->dataLength;
 }
 
-void SectNameFwd(SectHandle* handle, const char* position) {
+SectHead SectHeadAt(const SectHandle* handle, const char* position) {
   const char* end = lineEnd(handle);
-  const std::string_view name = nameAt(position + 1, end);
-  std::string_view value;
-  const char* behind = skipBlanks(name.data() + name.size(), end);
+  SectHead head = {};
+  head.name = nameAt(position + 1, end);
+  head.end = head.name.data() + head.name.size();
+  const char* behind = skipBlanks(head.end, end);
   if (behind != end && *behind == '=') {
-    value = nameAt(skipBlanks(behind + 1, end), end);
-  } else if (behind != end && !isLineEnd(*behind) && *behind != '#') {
+    head.value = nameAt(skipBlanks(behind + 1, end), end);
+    head.end = head.value.data() + head.value.size();
+  }
+  head.valid = behind == end || *behind == '=' || *behind == '#' || isLineEnd(*behind);
+  return head;
+}
+
+void SectNameFwd(SectHandle* handle, const char* position) {
+  const auto [name, value, end, valid] = SectHeadAt(handle, position);
+  if (!valid) {
     std::printf("SectNameFwd: syntax error @ line %d\n", handle->line);
     return;
   }
@@ -225,19 +280,24 @@ void SectNameRev(SectHandle* handle) {
   sectTrace("SectNameRev: sect=%s  nest=%d\n", handle->section, handle->nest);
 }
 
-bool SectScanLine(SectHandle* handle, std::string_view path) {
-  if (!holdsBracket(handle)) return false;
+const char* SectNextMark(const SectHandle* handle, const char* from) {
   const char* end = lineEnd(handle);
-  for (const char* mark = findMark(handle->linebuf, end); mark != end && *mark != '#';
-       mark = findMark(mark + 1, end)) {
+  while (from != end && *from != '[' && *from != ']' && *from != '#') ++from;
+  return from == end || *from == '#' ? nullptr : from;
+}
+
+const char* SectScanLine(SectHandle* handle, std::string_view path) {
+  if (!holdsBracket(handle)) return nullptr;
+  const char* mark = SectNextMark(handle, handle->linebuf);
+  for (; mark != nullptr; mark = SectNextMark(handle, mark + 1)) {
     if (*mark == '[') {
       SectNameFwd(handle, mark);
     } else {
       SectNameRev(handle);
     }
-    if (path == handle->section) return true;
+    if (path == handle->section) break;
   }
-  return false;
+  return mark;
 }
 
 void SectDump(const SectHandle* handle) {

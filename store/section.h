@@ -1,4 +1,4 @@
-// The section library: reads one section at a time of a nested, line-oriented text file.
+// The section library: reads and edits one section at a time of a nested, line-oriented text file.
 //
 //     [Adapter0                       # a section; "[Adapter = 0" is the same one
 //         VPI                   = 0   # a key and its value
@@ -15,6 +15,12 @@
 // end. ReadKey looks at that text alone. OpenNextSection moves on to the text behind the child, or
 // to a later section of the same path. CloseSection ends the work and releases the handle, which
 // belongs to the caller until then.
+//
+// A handle opened for writing copies what it passes into a temporary file beside the file's
+// directory. WriteKey edits the loaded text alone. CloseSection, if a key was written, copies the
+// rest, forces the copy to disk and renames it over the file; every byte but the edited ones is as
+// it was, and so are mode, owner and group. Until the rename nothing touches the file, and any
+// trouble on the way leaves it alone and removes the copy. A symbolic link is replaced by a file.
 //
 // Messages go to standard output, and so do the traces, once `dV` is set. One thread at a time.
 #pragma once
@@ -33,8 +39,11 @@ enum ValueType : short {
   T_IPADDR = 7,  // a dotted address, 4 bytes in network order
 };
 
-// Open flags. Reading is what is left when the write bit is not set.
+// Open flags. Reading is what is left when the write bit is not set. The library itself marks a
+// section that it created.
 constexpr int sectRead = 1;
+constexpr int sectWrite = 2;
+constexpr int sectCreated = 4;
 
 constexpr std::uint32_t sectCookie = 0xDEADBEEF;
 constexpr int sectNameBytes = 128;   // file names and section paths, with their terminator
@@ -56,6 +65,10 @@ struct SectHandle {
   char data[sectDataBytes + 1];
   std::int32_t lineLength;  // bytes in linebuf; a file may hold NULs
   std::int32_t dataLength;  // bytes in data
+  const char* refusal;      // why WriteKey must not edit `data`, or null
+  bool linePending;         // linebuf is behind `data` and not yet written
+  bool midLine;             // the last byte written is no line end
+  bool damaged;             // a read or a write failed: the file is to be left alone
 };
 
 // Tracing to standard output, off at the start, and the rule that stands in the traces.
@@ -63,13 +76,16 @@ extern int dV;
 extern const char SectDmsg[];
 
 // Opens `file` on the section of the path, for example "/Adapter0/LEC3". Returns null if there is
-// no such file, with a message, or no such section, without one.
+// no such file, with a message, or no such section, without one. With sectWrite a missing section
+// is created as the last child of its parent, which must be there, and null, with a message, also
+// tells that there can be no temporary file. One handle at a time may write.
 SectHandle* OpenSection(const char* file, const char* sectionPath, int flags);
 
 // Moves to the next text of the same path. Returns the handle, or null at the end of the file.
 SectHandle* OpenNextSection(SectHandle* handle);
 
-// Closes the file and releases the handle. Null, or a handle that is not alive, does nothing.
+// Replaces the file if keys were written, closes it and releases the handle. Null, or a handle that
+// is not alive, does nothing.
 void CloseSection(SectHandle* handle);
 
 // Reads a key's value into `dst`. `len` is the room in bytes of a T_HEX or T_STRING target; the
@@ -77,6 +93,13 @@ void CloseSection(SectHandle* handle);
 // value (a T_STRING becomes empty, any other target keeps what it held) and -1 for a key that is
 // missing or a type that is none.
 int ReadKey(SectHandle* handle, const char* key, void* dst, int type, int len);
+
+// Writes a key: over its value, or as a new line behind the section's keys. `len` is the size in
+// bytes of a T_HEX or T_STRING value. The last of those of a T_STRING is set to 0 in the caller's
+// buffer first; nothing is written of one with no room at all. A value that reads the same
+// already stays as it stands. Returns 0, or -1 for a type that is none, a value that is at the
+// very end of the file and, with a message, for what would not fit or could not be read back.
+int WriteKey(SectHandle* handle, const char* key, void* value, int type, int len);
 
 // The handle if it is alive, else null, with a trace.
 SectHandle* ValidHandle(SectHandle* handle);

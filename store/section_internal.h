@@ -1,17 +1,31 @@
 // The steps of the section library, shared by its sources.
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "store/section.h"
 
+constexpr std::size_t keyWordBytes = 128;  // a key with its terminator
+
 // Reads a line of at most 255 characters into `linebuf` and counts it. Returns its length, 0 at
-// the end of the file.
+// the end of the file and, with a message, on an error, which damages the handle.
 int SectReadLine(SectHandle* handle);
 
 // Fills `data` from the next line on, up to and including the first that has a bracket anywhere.
 // Returns its length; 0 if there is none, or, with a message, if the section is too long.
 int ReadSectData(SectHandle* handle);
+
+// The head of a section: its two words and where they end. Behind one that is not valid stands
+// something other than `=`.
+struct SectHead {
+  std::string_view name;
+  std::string_view value;
+  const char* end;
+  bool valid;
+};
+SectHead SectHeadAt(const SectHandle* handle, const char* position);
 
 // Enters the section whose head is the `[` at `position` in linebuf. A head that is no head, or
 // too long a path, draws a message and changes nothing.
@@ -20,12 +34,41 @@ void SectNameFwd(SectHandle* handle, const char* position);
 // Leaves the current section for its parent; at the top does nothing.
 void SectNameRev(SectHandle* handle);
 
+// The first `[` or `]` in linebuf from `from` on, or null; a comment ends the search.
+const char* SectNextMark(const SectHandle* handle, const char* from);
+
 // Follows the brackets of linebuf up to the first behind which the current section is `path`.
-// Returns whether there was one.
-bool SectScanLine(SectHandle* handle, std::string_view path);
+// Returns that bracket, or null.
+const char* SectScanLine(SectHandle* handle, std::string_view path);
 
 // Where the key's value starts in `data`, which may be a line end or `#` for an empty one, or null.
 const char* FindKey(const SectHandle* handle, std::string_view key);
+
+// The value of that type that starts at `from` in `data`.
+std::string_view SectValueAt(const SectHandle* handle, const char* from, int type);
+
+// A value as text, empty for a type that is none.
+std::string SectFormatValue(void* value, int type, int len);
+
+// Two lower-case digits for each byte.
+std::string SectHexEncode(const unsigned char* bytes, int len);
+
+// Opens the temporary file; false, with a message, if that can't be.
+bool SectOpenTemporary(SectHandle* handle);
+
+// Appends to the temporary file, if there is one. False, and the handle is damaged, on an error.
+bool SectPut(SectHandle* handle, std::string_view text);
+bool SectPutLine(SectHandle* handle);
+
+// Copies the file anew up to the end of the new section's parent, and writes its head. Null if it
+// can't be created there.
+SectHandle* CreateSection(SectHandle* handle, const char* path);
+
+// Replaces the file by the temporary one if keys were written, else removes that. Closes both.
+void SectCommit(SectHandle* handle);
+
+// Marks a handle whose file can't be read or written to its end.
+void SectDamage(SectHandle* handle);
 
 // The value of a hexadecimal digit of either case, -1 for any other character.
 int SectHexDigit(char digit);

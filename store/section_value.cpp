@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr std::size_t keyWordBytes = 128;  // a key with its terminator
-
 // The text of a section, walked from the front.
 class Walk {
  public:
@@ -50,16 +48,6 @@ const char* valueBehind(Walk walk) {
   walk.step();
   walk.to([](char c) { return !isBlank(c); });
   return walk.atEnd() ? nullptr : walk.position();
-}
-
-// The value that starts at `from`. Only text may hold blanks, and it loses those at its end.
-std::string valueAt(const SectHandle* handle, const char* from, int type) {
-  const char* end = handle->data + handle->dataLength;
-  const char* stop = std::find_if(from, end, [type](char c) {
-    return c == '#' || c == '\t' || isLineEnd(c) || (c == ' ' && type != T_STRING);
-  });
-  while (stop != from && stop[-1] == ' ') --stop;
-  return std::string(from, stop);
 }
 
 // The low `width` bytes of a number.
@@ -133,6 +121,16 @@ const char* FindKey(const SectHandle* handle, std::string_view key) {
   }
 }
 
+// Only text may hold blanks, and it loses those at its end.
+std::string_view SectValueAt(const SectHandle* handle, const char* from, int type) {
+  const char* end = handle->data + handle->dataLength;
+  const char* stop = std::find_if(from, end, [type](char c) {
+    return c == '#' || c == '\t' || isLineEnd(c) || (c == ' ' && type != T_STRING);
+  });
+  while (stop != from && stop[-1] == ' ') --stop;
+  return {from, static_cast<std::size_t>(stop - from)};
+}
+
 int ReadKey(SectHandle* handle, const char* key, void* dst, int type, int len) {
   if (handle == nullptr) return -1;
   sectTrace("ReadKey: hd=%x key=%s\n", sectTraceId(handle), key);
@@ -142,7 +140,7 @@ int ReadKey(SectHandle* handle, const char* key, void* dst, int type, int len) {
     if (type == T_STRING && len > 0) *static_cast<char*>(dst) = '\0';
     return 1;
   }
-  const std::string value = valueAt(handle, position, type);
+  const std::string value(SectValueAt(handle, position, type));
   sectTrace("ReadKey: val=%s\n", value.c_str());
   return storeValue(value, dst, type, len);
 }

@@ -57,6 +57,30 @@ TEST_F(PdfEditTest, LogsSizesThatDoNotFit) {
             "OpenKey(/B) failed.\n");
 }
 
+TEST_F(PdfEditTest, CommitsASectionWhenItIsLeft) {
+  const std::string log = logged([] {
+    PdfEdit edit(nullptr, false);
+    std::int32_t number = 7;
+    EXPECT_FALSE(edit.SetValue("K", &number, T_LONG, 4, true)) << "no section is open";
+    edit.OpenKey("/A", sectWrite, false);
+    EXPECT_TRUE(edit.SetValue("K", &number, T_LONG, 8, true));
+    EXPECT_EQ(edit.status(), PdfEdit::good);
+    EXPECT_FALSE(edit.SetValue("E", &number, 0, 4, true));
+    EXPECT_EQ(edit.status(), PdfEdit::failed);
+    edit.OpenKey("/A/B", sectWrite, false);
+    EXPECT_EQ(read(config), "[A\nK = 7\nE =\nS = text\n]\n");
+    EXPECT_TRUE(edit.SetValue("K", &number, T_LONG, 4, true));
+  });
+  EXPECT_EQ(read(config), "[A\nK = 7\nE =\nS = text\n\t[B\n\t\tK \t\t\t= 7\n\t]\n]\n");
+  EXPECT_EQ(log,
+            "pdfFileName == ./etc/atm/odconf\n"
+            "WriteKey error: K: 2\n"
+            "SetValue(K) failure.\n"
+            "SetValue(K): T_LONG size is '8'\n"
+            "WriteKey error: E: 2\n"
+            "SetValue(E) failure.\n");
+}
+
 TEST_F(PdfEditTest, ShowsFailuresThatAreAskedFor) {
   for (const bool display : {false, true}) {
     for (const bool show : {false, true}) {

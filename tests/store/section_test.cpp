@@ -181,7 +181,8 @@ TEST_F(Section, TellsWhatIsWrong) {
   const std::string longName(300, 'f');
   EXPECT_EQ(printed([&] { EXPECT_EQ(OpenSection(longName.c_str(), "/A", sectRead), nullptr); }),
             "OpenSection: Error Opening File " + longName + "\n");
-  EXPECT_EQ(OpenSection("etc", "/A", sectRead), nullptr) << "a folder holds no section";
+  EXPECT_EQ(printed([] { EXPECT_EQ(OpenSection("etc", "/A", sectRead), nullptr); }),
+            "SectReadLine: Error Reading File etc\n\n");
 }
 
 TEST_F(Section, KeepsWithinItsBounds) {

@@ -8,13 +8,16 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 
 class StoreTest : public testing::Test {
  protected:
   StoreTest() {
-    char folder[] = "/tmp/ondrelle-store-XXXXXX";
-    folder_ = mkdtemp(folder);
+    // In memory, where forcing to disk costs nothing.
+    std::string folder = access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp";
+    folder += "/ondrelle-store-XXXXXX";
+    folder_ = mkdtemp(folder.data());
     std::filesystem::current_path(folder_);
     std::filesystem::create_directories("etc/atm");
   }
@@ -25,6 +28,10 @@ class StoreTest : public testing::Test {
 
   static void write(const std::string& name, const std::string& text) {
     std::ofstream(name, std::ios::binary) << text;
+  }
+  static std::string read(const std::string& name) {
+    std::ifstream stream(name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
   }
   static void writeConfig(const std::string& text) { write(config, text); }
 
