@@ -194,13 +194,15 @@ unsigned long requestsSent() {
 
 bool show(zDialogFrame& dialog) {
   dialog.showTimeout();
-  return waitUntil([&] {
+  const bool shown = waitUntil([&] {
     if (!XtIsRealized(dialog.shell())) return false;
     Window focused = None;
     int revert = 0;
     XGetInputFocus(app->display(), &focused, &revert);
     return focused == XtWindow(dialog.shell());
   });
+  settle();  // its first drawing is done, too
+  return shown;
 }
 
 bool hasFocus(const zWindow& window) {

@@ -56,7 +56,7 @@ int countPixels(const zWindow& window, const zRect& area, const zColor& color);
 // Requests that the program has sent to the server so far.
 unsigned long requestsSent();
 
-// Brings a dialog up and waits until it is on the screen with the input focus in it.
+// Brings a dialog up and waits until it is drawn on the screen with the input focus in it.
 bool show(zDialogFrame& dialog);
 // Whether the keyboard focus of the dialog lies in this window.
 bool hasFocus(const zWindow& window);
