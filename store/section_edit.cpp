@@ -68,6 +68,12 @@ bool movesBrackets(std::string_view data, Span old, std::size_t length) {
   return length != old.length && holdsBracket(line) && longest + 1 >= sectLineBytes;
 }
 
+// Whether nothing but the end of `data` ends the value.
+bool endsWithText(std::string_view data, Span value, int type) {
+  const std::string_view behind = data.substr(value.start + value.length);
+  return type == T_STRING ? behind.find_first_not_of(' ') == behind.npos : behind.empty();
+}
+
 // Text loses the blanks around it when it is read.
 std::string_view asRead(std::string_view text, int type) {
   if (type != T_STRING) return text;
@@ -94,7 +100,8 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   const std::string_view old = SectValueAt(handle, position, type);
   const char* behind = old.data() + old.size();
   const std::string_view data = textOf(handle);
-  if (behind == data.data() + data.size()) return -1;
+  const Span place = {static_cast<std::size_t>(position - data.data()), old.size()};
+  if (endsWithText(data, place, type)) return -1;
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);
@@ -102,7 +109,6 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   if (old.empty() && position[-1] != ' ') value += ' ';
   value += text;
   if (*behind == '#') value += ' ';
-  const Span place = {static_cast<std::size_t>(position - data.data()), old.size()};
   if (movesBrackets(data, place, value.size())) return refuse(handle, "Line Exceeds Buffer", key);
   return splice(handle, place, value) ? 0 : refuse(handle, "Buffer Exceeded", key);
 }
@@ -134,7 +140,7 @@ int insertLine(SectHandle* handle, std::string_view key, const std::string& text
   if (!splice(handle, {position, 0}, line)) return refuse(handle, "Buffer Exceeded", key);
   const char* written = handle->data + position;
   const char* found = FindKey(handle, key);
-  if (found != nullptr && found >= written && found < written + line.size()) return 0;
+  if (found != nullptr && found > written && found < written + line.size()) return 0;
   splice(handle, {position, line.size()}, "");
   return refuse(handle, "Key Hidden By A Value", key);
 }

@@ -65,12 +65,14 @@ const char* findEnd(SectHandle* handle, const char* from, int& depth) {
   return nullptr;
 }
 
-// Whether a bracket is part of the name of a head in front of it, as in "[A]".
-bool endsInName(const SectHandle* handle, const char* bracket) {
-  const std::string_view front(handle->linebuf,
-                               static_cast<std::size_t>(bracket - handle->linebuf));
-  const std::size_t head = front.rfind('[');
-  return head != front.npos && SectHeadAt(handle, handle->linebuf + head).end > bracket;
+// Whether the last head in front of a bracket reads on into it, as in "[A]" or "[A ]", so that it
+// would be another one without it.
+bool endsInHead(const SectHandle* handle, const char* bracket) {
+  const auto length = static_cast<std::size_t>(bracket - handle->linebuf);
+  const std::size_t start = std::string_view(handle->linebuf, length).rfind('[');
+  if (start == std::string_view::npos) return false;
+  const SectHead head = SectHeadAt(handle, handle->linebuf + start);
+  return !head.valid || head.end > bracket;
 }
 
 // Copies what shares the line with the bracket in front of it, and ends the line there; linebuf
@@ -97,7 +99,7 @@ bool copyToEnd(SectHandle* handle, std::string_view parent) {
     if (!SectPutLine(handle) || SectReadLine(handle) == 0) return false;
     end = findEnd(handle, handle->linebuf, depth);
   }
-  return parent == handle->section && !endsInName(handle, end) && splitLine(handle, end);
+  return parent == handle->section && !endsInHead(handle, end) && splitLine(handle, end);
 }
 
 std::string bracketLine(int nest, char bracket, std::string_view name) {

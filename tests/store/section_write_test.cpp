@@ -93,7 +93,7 @@ TEST_F(SectionWrite, FormatsByType) {
   for (const auto& [bytes, type, len, text] : rows) {
     writeConfig("[A\nK = old words\n]\n");
     char value[8] = {};
-    std::memcpy(value, bytes, 5);
+    std::string(bytes).copy(value, sizeof value);
     EXPECT_EQ(WriteKey(open("/A").get(), "K", value, type, len), 0);
     const std::string rest = type == T_STRING ? "" : " words";
     EXPECT_EQ(read(config), "[A\nK = " + std::string(text) + rest + "\n]\n");
