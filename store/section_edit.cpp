@@ -74,6 +74,12 @@ bool endsWithText(std::string_view data, Span value, int type) {
   return type == T_STRING ? behind.find_first_not_of(' ') == behind.npos : behind.empty();
 }
 
+// Whether text behind a tab would take the place of a value that is emptied.
+bool textFollows(std::string_view data, Span value) {
+  const std::size_t behind = data.find_first_not_of(" \t", value.start + value.length);
+  return behind != data.npos && data[behind] != '#' && !isLineEnd(data[behind]);
+}
+
 // Text loses the blanks around it when it is read.
 std::string_view asRead(std::string_view text, int type) {
   if (type != T_STRING) return text;
@@ -104,6 +110,9 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   if (endsWithText(data, place, type)) return -1;
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
+  if (asRead(text, type).empty() && textFollows(data, place)) {
+    return refuse(handle, "Text Behind The Value", key);
+  }
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);
   std::string value;
   if (old.empty() && position[-1] != ' ') value += ' ';

@@ -232,13 +232,18 @@ TEST_F(Section, TracesUnderTheFlag) {
   const std::string trace = printed([] {
     dV = 1;
     lookUp("/A", "K");
+    std::int32_t number = 2;
+    WriteKey(Handle(OpenSection(config, "/A/B", sectWrite)).get(), "K", &number, T_INT, 4);
     dV = 0;
   });
   for (const char* line :
        {"OpenSection(./etc/atm/odconf,/A,0x1)\n", "OpenSection: rfn=./etc/atm/odconf\n",
         "OpenSection: search=/A\n", "line 1   [A\n", "SectNameFwd: sect=/A  nest=1\n",
         "ReadSectData: Section data\nK = 1\n]\n\n", "FindKey: key=K\n", "ReadKey: val=1\n",
-        "CloseSection: rfn=./etc/atm/odconf\n"}) {
+        "CloseSection: rfn=./etc/atm/odconf\n", "OpenSection: wfn=./etc/atmOD",
+        "calling CreateSection...for '/A/B'\nCreateSection: /A/B\n",
+        "CreateSectionOk: /A/B nest=1 rflg=6\n", " key=K rflg=6\n", "WriteKey: wflg=1\n",
+        " flg=1\n"}) {
     EXPECT_NE(trace.find(line), std::string::npos) << line << trace;
   }
 }
