@@ -14,7 +14,7 @@ DUnavailableDlg::DUnavailableDlg(zWindow* parent, int title)
     : zFormDialog(parent, zResId(unavailableDialog), 0) {
   const std::string name = zResId(title).loadStr();
   caption(name);
-  (new zStaticText(this, 100))->text(name + " is not part of this version.");
+  (new zStaticText(this, 100))->text(name + ": not part of this version yet.");
   (new zPushButton(this, okId))->setFocus();
   centerWindow(1);
   show(1);

@@ -16,8 +16,7 @@ XtTranslations pushTranslations() {
 
 }  // namespace
 
-zButton::zButton(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id,
-                 int)
+zButton::zButton(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zControl(parent, sizer, style, title, id, subTypeButton) {
   ziSetType(zTypeButton);
 }

@@ -19,8 +19,7 @@ class zButton : public zControl {
   };
 
   // The generic button of a template; `create` makes its widget.
-  zButton(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id,
-          int buttonType);
+  zButton(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id);
   zButton(zWindow* parent, int id);
 
   int create() override;

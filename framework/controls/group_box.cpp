@@ -7,7 +7,7 @@
 #include "framework/core/x_text.h"
 
 zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
-    : zButton(parent, sizer, style, title, id, group) {
+    : zButton(parent, sizer, style, title, id) {
   ziSetType(zTypeGroupBox);
   styleClear(zStyleClipSiblings | zStyleTabStop);
   createFrame();

@@ -211,14 +211,14 @@ void zWindow::update() {
   if (mainWidget_ && XtIsRealized(mainWidget_)) XmUpdateDisplay(mainWidget_);
 }
 
-void zWindow::setDirty(const zRect* rect, int erase) {
+// A window that draws itself covers all of its area, so nothing is erased apart.
+void zWindow::setDirty(const zRect* rect, int) {
   const Widget widget = drawnWidget();
   if (!widget || !XtIsRealized(widget)) return;
   zRect all;
   if (!rect) getInterior(all);
   const zRect& area = rect ? *rect : all;
   if (area.isEmpty()) return;
-  (void)erase;  // a window that draws itself covers all of its area
   XClearArea(XtDisplay(widget), XtWindow(widget), area.left, area.top,
              static_cast<unsigned>(area.width()), static_cast<unsigned>(area.height()), True);
 }

@@ -238,9 +238,7 @@ void zDialogFrame::modal(int style) {
       style == zModalSystem ? MWM_INPUT_SYSTEM_MODAL : MWM_INPUT_PRIMARY_APPLICATION_MODAL,
       nullptr);
   showTimeout();
-  inModal_ = true;
   while (!finished_ && zAppKeepRunning) XtAppProcessEvent(app->context(), XtIMAll);
-  inModal_ = false;
   --ziModalSem;
 }
 

@@ -81,7 +81,6 @@ class zDialogFrame : public zFrameWin {
   bool finished_ = false;
   std::list<Group> groups_;
   XtIntervalId pendingShow_ = 0;
-  bool inModal_ = false;
   int defaultId_;
   Widget outerBoard_ = nullptr;
   Widget workArea_ = nullptr;

@@ -114,7 +114,7 @@ void ziDialogReader::createButton(const zControlRecord& r, zSizer* place) {
     box->show(1);
     return;
   }
-  auto* button = new zButton(window_, place, style, r.title, id, static_cast<int>(subtype));
+  auto* button = new zButton(window_, place, style, r.title, id);
   button->create();
   button->show(1);
 }

@@ -141,8 +141,8 @@ TEST_F(TableTest, AClickPicksACellAndTakesTheFocus) {
 }
 
 TEST_F(TableTest, TabPassesThroughAndReturnPressesNoButton) {
-  zButton other(&dialog, new zSizer(10, 190, 80, 30, nullptr), childStyle, "Other", 1,
-                zButton::defaultPush);
+  zButton other(&dialog, new zSizer(10, 190, 80, 30, nullptr), childStyle | zButton::defaultPush,
+                "Other", 1);
   other.create();
   other.show(1);
   other.setNotifyClicked(&heard, &Listener::clicked);
