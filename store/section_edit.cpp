@@ -39,7 +39,7 @@ int refuse(const SectHandle* handle, const char* why, std::string_view key) {
 // The most that `data` may hold: a section that is still open needs room for its end.
 std::size_t capacity(const SectHandle* handle) {
   const bool created = (handle->rflg & sectCreated) != 0;
-  return static_cast<std::size_t>(sectDataBytes - (created ? handle->nest + 2 : 0));
+  return static_cast<std::size_t>(sectDataBytes - (created ? SectTabs(handle->nest) + 2 : 0));
 }
 
 // Puts `text` in the place of the characters; false if `data` has no room for it.
@@ -80,6 +80,14 @@ bool textFollows(std::string_view data, Span value) {
   return behind != data.npos && data[behind] != '#' && !isLineEnd(data[behind]);
 }
 
+// Whether the value is that of a head which stands between the key and the sign, as in "K [B = 1".
+bool isOfHead(std::string_view data, std::size_t value) {
+  data = data.substr(0, data.rfind('=', value - 1));
+  data = data.substr(0, data.find_last_not_of(" \t") + 1);
+  const std::size_t start = data.find_last_of("[=# \t\r\n");
+  return start != data.npos && data[start] == '[';
+}
+
 // Text loses the blanks around it when it is read.
 std::string_view asRead(std::string_view text, int type) {
   if (type != T_STRING) return text;
@@ -110,6 +118,7 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   if (endsWithText(data, place, type)) return -1;
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
+  if (isOfHead(data, place.start)) return refuse(handle, "Value Of A Section Head", key);
   if (asRead(text, type).empty() && textFollows(data, place)) {
     return refuse(handle, "Text Behind The Value", key);
   }
@@ -144,7 +153,7 @@ int insertLine(SectHandle* handle, std::string_view key, const std::string& text
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);
   const std::size_t position = newLinePosition(handle);
   const bool midLine = position == 0 ? handle->midLine : handle->data[position - 1] != '\n';
-  const int tabs = handle->nest + ((handle->rflg & sectCreated) != 0 ? 1 : 0);
+  const int tabs = SectTabs(handle->nest + ((handle->rflg & sectCreated) != 0 ? 1 : 0));
   const std::string line = (midLine ? "\n" : "") + keyLine(key, text, tabs);
   if (!splice(handle, {position, 0}, line)) return refuse(handle, "Buffer Exceeded", key);
   const char* written = handle->data + position;
