@@ -40,6 +40,15 @@ bool holdsBracket(const SectHandle* handle) {
   return std::memchr(handle->linebuf, '[', length) || std::memchr(handle->linebuf, ']', length);
 }
 
+// Enters or leaves the section at a bracket of linebuf.
+void followMark(SectHandle* handle, const char* mark) {
+  if (*mark == '[') {
+    SectNameFwd(handle, mark);
+  } else {
+    SectNameRev(handle);
+  }
+}
+
 // Copies a file name into its field; false if it is too long.
 bool setName(char (&field)[sectNameBytes], const char* name) {
   const std::size_t length = std::strlen(name);
@@ -170,20 +179,26 @@ SectHandle* OpenNextSection(SectHandle* handle) {
 }
 
 void CloseSection(SectHandle* handle) {
+  CommitSection(handle);
+}
+
+int CommitSection(SectHandle* handle) {
   if (handle == nullptr) {
     sectTrace("CloseSection: VOID handle\n");
-    return;
+    return 0;
   }
   if (handle->cookie != sectCookie) {
     sectTrace("CloseSection: BAD cookie (h=%x c=%x)\n", sectTraceId(handle), handle->cookie);
-    return;
+    return 0;
   }
-  if (handle->wfd != nullptr) SectCommit(handle);
+  const bool committed = handle->wfd == nullptr || SectCommit(handle);
+  const bool whole = committed && !handle->damaged;
   sectTrace("CloseSection: rfn=%s\n", handle->rfn);
   if (handle->rfd != nullptr) std::fclose(handle->rfd);
   sectTrace("CloseSection: handle=0x%x\n", sectTraceId(handle));
   handle->cookie = ~handle->cookie;
   delete handle;
+  return whole ? 0 : -1;
 }
 
 SectHandle* ValidHandle(SectHandle* handle) {
@@ -290,14 +305,25 @@ const char* SectScanLine(SectHandle* handle, std::string_view path) {
   if (!holdsBracket(handle)) return nullptr;
   const char* mark = SectNextMark(handle, handle->linebuf);
   for (; mark != nullptr; mark = SectNextMark(handle, mark + 1)) {
-    if (*mark == '[') {
-      SectNameFwd(handle, mark);
-    } else {
-      SectNameRev(handle);
-    }
+    followMark(handle, mark);
     if (path == handle->section) break;
   }
   return mark;
+}
+
+bool SectListPaths(const char* file, std::vector<std::string>& paths) {
+  SectHandle handle = {};
+  const bool opened = openForReading(&handle, file);
+  while (opened && SectReadLine(&handle) > 0) {
+    const char* mark = SectNextMark(&handle, handle.linebuf);
+    for (; mark != nullptr; mark = SectNextMark(&handle, mark + 1)) {
+      const std::int32_t above = handle.nest;
+      followMark(&handle, mark);
+      if (handle.nest > above) paths.emplace_back(handle.section);
+    }
+  }
+  if (handle.rfd != nullptr) std::fclose(handle.rfd);
+  return opened && !handle.damaged;
 }
 
 void SectDump(const SectHandle* handle) {

@@ -88,6 +88,10 @@ SectHandle* OpenNextSection(SectHandle* handle);
 // is not alive, does nothing.
 void CloseSection(SectHandle* handle);
 
+// The same for callers that want to know. Returns 0, or -1 if the file was to be replaced and was
+// not, or could not be read or copied on the way; then it is as it was.
+int CommitSection(SectHandle* handle);
+
 // Reads a key's value into `dst`. `len` is the room in bytes of a T_HEX or T_STRING target; the
 // numbers have their own width. Returns 0 when the value was stored, 1 for a key with an empty
 // value (a T_STRING becomes empty, any other target keeps what it held) and -1 for a key that is

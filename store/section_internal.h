@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "store/section.h"
 
@@ -41,6 +42,10 @@ const char* SectNextMark(const SectHandle* handle, const char* from);
 // Returns that bracket, or null.
 const char* SectScanLine(SectHandle* handle, std::string_view path);
 
+// Appends the path of every section that OpenSection could find in the file, in the file's order.
+// False, with a message, if the file can't be opened or read to its end.
+bool SectListPaths(const char* file, std::vector<std::string>& paths);
+
 // Where the key's value starts in `data`, which may be a line end or `#` for an empty one, or null.
 const char* FindKey(const SectHandle* handle, std::string_view key);
 
@@ -65,7 +70,8 @@ bool SectPutLine(SectHandle* handle);
 SectHandle* CreateSection(SectHandle* handle, const char* path);
 
 // Replaces the file by the temporary one if keys were written, else removes that. Closes both.
-void SectCommit(SectHandle* handle);
+// False, with a message, if the file was to be replaced and was not.
+bool SectCommit(SectHandle* handle);
 
 // Marks a handle whose file can't be read or written to its end.
 void SectDamage(SectHandle* handle);

@@ -235,14 +235,13 @@ SectHandle* CreateSection(SectHandle* handle, const char* path) {
   return handle;
 }
 
-void SectCommit(SectHandle* handle) {
+bool SectCommit(SectHandle* handle) {
   sectTrace("CloseSection: wfn=%s flg=%d\n", handle->wfn, handle->wflg);
-  if (handle->wflg == 0) {
-    std::fclose(handle->wfd);
-    std::remove(handle->wfn);
-  } else if (!replaceFile(handle)) {
-    std::remove(handle->wfn);
-  }
+  const bool asked = handle->wflg != 0;
+  if (!asked) std::fclose(handle->wfd);
+  const bool replaced = asked && replaceFile(handle);
+  if (!replaced) std::remove(handle->wfn);
   handle->wfd = nullptr;
   writerOpen = false;
+  return replaced || !asked;
 }

@@ -296,7 +296,8 @@ TEST_F(SectionWrite, TroubleLeavesTheOldFile) {
   EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
   std::filesystem::remove(config);
   std::filesystem::create_directory(config);
-  EXPECT_EQ(printed([&] { handle.reset(); }), "CloseSection: Rename Error\n\n");
+  EXPECT_EQ(printed([&] { EXPECT_EQ(CommitSection(handle.release()), -1); }),
+            "CloseSection: Rename Error\n\n");
   EXPECT_EQ(printed([] { EXPECT_FALSE(open("/A")); }),
             "SectReadLine: Error Reading File ./etc/atm/odconf\n\n");
   std::filesystem::remove(config);
