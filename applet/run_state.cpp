@@ -8,4 +8,3 @@ std::uint8_t DaiOpenSuccess = 0;
 std::uint8_t BoardIsThere[maxAdapters] = {};
 std::int32_t advSettings = 0;
 char mainBuffer[mainBufferBytes];
-char brennwick_driver_revision[40];

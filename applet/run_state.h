@@ -15,5 +15,4 @@ extern std::uint8_t BoardIsThere[maxAdapters];  // adapter present and answered
 extern std::int32_t advSettings;                // nonzero: the advanced pages are offered
 
 constexpr std::size_t mainBufferBytes = 256;
-extern char mainBuffer[mainBufferBytes];    // scratch for texts put together
-extern char brennwick_driver_revision[40];  // the driver's package revision
+extern char mainBuffer[mainBufferBytes];  // scratch for texts put together

@@ -31,3 +31,6 @@ struct AtmDevices {
 };
 
 extern AtmDevices atmDevices;
+
+// The running driver's package revision, empty without a driver.
+extern char brennwick_driver_revision[40];

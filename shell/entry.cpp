@@ -10,7 +10,7 @@
 #include "framework/core/app.h"
 #include "framework/resources/resources.h"
 #include "shell/main_dialog.h"
-#include "shell/version.h"
+#include "foundation/version.h"
 
 namespace {
 

@@ -1,22 +1,12 @@
 #include "store/driver_pdf_edit.h"
 
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
 
 #include "atm/devices.h"
 #include "foundation/odlog.h"
+#include "store/side_file.h"
 
 namespace {
-
-std::string adapterPath(short adapter) {
-  return "/Adapter" + std::to_string(adapter);
-}
-
-std::string servicePath(short adapter, const char* service, int instance = 0) {
-  return adapterPath(adapter) + '/' + service + std::to_string(instance);
-}
 
 // Stores the low bytes of a number in an integer field of 1, 2 or 4 bytes.
 void storeInteger(std::int32_t number, void* field, std::size_t width) {
@@ -25,20 +15,6 @@ void storeInteger(std::int32_t number, void* field, std::size_t width) {
   if (width == sizeof byte) std::memcpy(field, &byte, width);
   if (width == sizeof half) std::memcpy(field, &half, width);
   if (width == sizeof number) std::memcpy(field, &number, width);
-}
-
-// Appends the records of a side file to a list. A field missing from a record is that of the
-// record before it. What is no plain file, and so might block or never end, counts as missing.
-template <class Record>
-void readSideFile(const char* name, std::vector<Record>& list, const char* note) {
-  std::error_code none;
-  if (!std::filesystem::is_regular_file(name, none)) return;
-  std::ifstream in(name);
-  Record record = {};
-  while (in >> record) {
-    odlog << note << record << std::endl;
-    list.push_back(record);
-  }
 }
 
 }  // namespace
@@ -127,11 +103,15 @@ void DriverPdfEdit::readKeys(std::span<const SchemaKey> keys, void* record) {
         readNumber(key, field);
         break;
       case KeyForm::text:
+      case KeyForm::sideFile:
         QueryValue(key.name, field, key.type, static_cast<long>(key.width) - 1, true);
         break;
       case KeyForm::networkPrefix:
       case KeyForm::esiAndSelector:
         readAddressPart(key, *reinterpret_cast<atmAddress*>(field));
+        break;
+      case KeyForm::prefixBytes:
+        QueryValue(key.name, field, T_HEX, networkPrefixBytes, true);
         break;
     }
   }

@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::int32_t missingUniRev = 31;
 
-std::string sigPath(short adapter, const char* section) {
-  return "/Adapter" + std::to_string(adapter) + '/' + section;
-}
-
 // The sections below Signalling0, by the names they have in the file and in the log.
 constexpr struct {
   const char* name;
@@ -42,7 +38,7 @@ void logDefaultPrefix(short adapter) {
 
 void DriverPdfEdit::ReadSig(short adapter) {
   AtmSig& sig = atmDevices.sig[adapter];
-  const std::string path = sigPath(adapter, "Signalling0");
+  const std::string path = servicePath(adapter, "Signalling");
   if (openForReading(path)) readKeys(signallingKeys, &sig);
   sig.cfg.port = static_cast<std::uint8_t>(adapter);
   odlog << "  Link::port - " << adapter << "::" << int{sig.cfg.port} << std::endl;
@@ -71,10 +67,18 @@ void DriverPdfEdit::ReadSig(short adapter) {
   }
 }
 
+void DriverPdfEdit::WriteSig(short adapter) {
+  AtmSig& sig = atmDevices.sig[adapter];
+  const std::string path = servicePath(adapter, "Signalling");
+  writeSection(path, signallingWritten, &sig);
+  writeSection(path + "/Q2931Section0", q2931Written, &sig);
+  writeSection(path + "/IlmiSection0", ilmiWritten, &sig);
+}
+
 // The settings are taken from a section of the older name too, the prefix is not.
 void DriverPdfEdit::readFirstPass(short adapter, AtmSig& sig) {
   for (const char* section : {"Signalling0", "Signalling"}) {
-    if (!openForReading(sigPath(adapter, section))) continue;
+    if (!openForReading(adapterPath(adapter) + '/' + section)) continue;
     std::int32_t version;
     queryInt("UniRev", version);
     unsigned char prefix[networkPrefixBytes];

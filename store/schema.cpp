@@ -49,7 +49,7 @@ constexpr SchemaKey lec[] = {
     {"ElanName", T_STRING, text, FIELD(AtmLEC, ElanName)},
     {"AtmPrefix", T_HEX, networkPrefix, FIELD(AtmLEC, address)},
     {"AtmEsiSel", T_HEX, esiAndSelector, FIELD(AtmLEC, address)},
-    {"PvcConfFile", T_STRING, text, FIELD(AtmLEC, PvcConfFile)},
+    {"PvcConfFile", T_STRING, sideFile, FIELD(AtmLEC, PvcConfFile)},
 };
 
 constexpr SchemaKey les[] = {
@@ -59,7 +59,7 @@ constexpr SchemaKey les[] = {
     {"ElanNameStrict", T_LONG, number, FIELD(AtmLES, ElanNameStrict)},
     {"ElanName", T_STRING, text, FIELD(AtmLES, ElanName)},
     {"ElanType", T_LONG, number, FIELD(AtmLES, ElanType)},
-    {"ElanTbl", T_STRING, text, FIELD(AtmLES, ElanTbl)},
+    {"ElanTbl", T_STRING, sideFile, FIELD(AtmLES, ElanTbl)},
 };
 
 constexpr SchemaKey lecs[] = {
@@ -79,7 +79,7 @@ constexpr SchemaKey ip1577[] = {
     {"ServerIPAddress", T_STRING, text, FIELD(AtmIP1577, ServerIPAddress)},
     {"ServerIPMask", T_STRING, text, FIELD(AtmIP1577, ServerIPMask)},
     {"IPAddress", T_STRING, text, FIELD(AtmIP1577, IPAddress)},
-    {"PvcConfFile", T_STRING, text, FIELD(AtmIP1577, PvcConfFile)},
+    {"PvcConfFile", T_STRING, sideFile, FIELD(AtmIP1577, PvcConfFile)},
 };
 
 constexpr SchemaKey signalling[] = {
@@ -147,9 +147,54 @@ constexpr SchemaKey ilmi[] = {
     {"IlmiMaxBurstSize_01", T_INT, number, FIELD(sigPortCfg_s, IlmiMaxBurstSize_01)},
 };
 
+// A member of the driver's record inside AtmSig.
+#define CFG_FIELD(member) \
+  offsetof(AtmSig, cfg) + offsetof(sigPortCfg_s, member), sizeof(sigPortCfg_s::member)
+
+constexpr SchemaKey signallingOut[] = {
+    {"NetPrefix", T_STRING, prefixBytes, CFG_FIELD(NetPrefix)},
+    {"Enabled", T_LONG, number, FIELD(AtmSig, Enabled)},
+    {"UniRev", T_LONG, number, FIELD(AtmSig, UniRev)},
+    {"AddressRegistration", T_CHAR, number, CFG_FIELD(AddressRegistration)},
+    {"PortChangeDetect", T_CHAR, number, CFG_FIELD(PortChangeDetect)},
+    {"RegDiffNetPrefix", T_CHAR, number, CFG_FIELD(RegDiffNetPrefix)},
+};
+
+constexpr SchemaKey q2931Out[] = {
+    {"UniRev", T_LONG, number, CFG_FIELD(UniRevision)},
+};
+
+// The first three are for another reader of the file.
+constexpr SchemaKey ilmiOut[] = {
+    {"ILMIEnableAddressReg", T_CHAR, number, CFG_FIELD(AddressRegistration)},
+    {"IlmiEnablePortDetect", T_CHAR, number, CFG_FIELD(PortChangeDetect)},
+    {"IlmiEnableNonStdPrefixReg", T_CHAR, number, CFG_FIELD(RegDiffNetPrefix)},
+    {"IlmiEnableAutoConfig", T_CHAR, number, CFG_FIELD(IlmiEnableAutoConfig)},
+};
+
+// Numbers are written out of their fields, so these have their types' widths.
+constexpr bool fieldsFit(std::span<const SchemaKey> keys) {
+  for (const SchemaKey& key : keys) {
+    const std::size_t width = key.type == T_CHAR ? 1 : key.type == T_SHORT ? 2 : 4;
+    if (key.form == number && key.width != width) return false;
+  }
+  return true;
+}
+static_assert(fieldsFit(physical) && fieldsFit(redundantLink) && fieldsFit(lec) && fieldsFit(les) &&
+              fieldsFit(lecs) && fieldsFit(ip1577) && fieldsFit(signallingOut) &&
+              fieldsFit(q2931Out) && fieldsFit(ilmiOut));
+
 constexpr UniVersion versions[] = {{30, uniCode30}, {31, uniCode31}, {40, uniCode40}};
 
 }  // namespace
+
+std::string adapterPath(short adapter) {
+  return "/Adapter" + std::to_string(adapter);
+}
+
+std::string servicePath(short adapter, const char* service, int instance) {
+  return adapterPath(adapter) + '/' + service + std::to_string(instance);
+}
 
 const std::span<const SchemaKey> globalSigKeys = globalSig;
 const std::span<const SchemaKey> physicalKeys = physical;
@@ -162,4 +207,7 @@ const std::span<const SchemaKey> signallingKeys = signalling;
 const std::span<const SchemaKey> q2931Keys = q2931;
 const std::span<const SchemaKey> qSaalKeys = qSaal;
 const std::span<const SchemaKey> ilmiKeys = ilmi;
+const std::span<const SchemaKey> signallingWritten = signallingOut;
+const std::span<const SchemaKey> q2931Written = q2931Out;
+const std::span<const SchemaKey> ilmiWritten = ilmiOut;
 const std::span<const UniVersion> uniVersions = versions;

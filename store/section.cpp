@@ -80,19 +80,25 @@ int loadBehind(SectHandle* handle, const char* mark) {
   return length;
 }
 
+// Reads on to a line that may hold a bracket and passes on everything up to its end. Returns its
+// length, 0 at the end of the file and -1 where writing failed.
+int nextLine(SectHandle* handle) {
+  if (!SectSkipLines(handle)) return -1;
+  const int length = SectReadLine(handle);
+  return SectPutLine(handle) ? length : -1;
+}
+
 // Positions the handle on the section, as far as that goes.
 bool findSection(SectHandle* handle, const char* path) {
   sectTrace("OpenSection: search=%s\n", path);
-  while (SectReadLine(handle) > 0) {
-    if (!SectPutLine(handle)) {
-      std::printf("OpenSection: Error Writing File %s\n\n", handle->wfn);
-      break;
-    }
+  int length;
+  while ((length = nextLine(handle)) > 0) {
     if (const char* mark = SectScanLine(handle, path)) {
       loadBehind(handle, mark);
       return true;
     }
   }
+  if (length < 0) std::printf("OpenSection: Error Writing File %s\n\n", handle->wfn);
   // What can't be read may hold the section.
   if (handle->wfd == nullptr || std::ferror(handle->rfd) != 0) return false;
   sectTrace("calling CreateSection...for '%s'\n", path);
@@ -114,8 +120,9 @@ bool openOn(SectHandle* handle, const char* file, const char* sectionPath) {
 int loadNext(SectHandle* handle, std::string_view path) {
   for (;;) {
     if (const char* mark = SectScanLine(handle, path)) return loadBehind(handle, mark);
-    if (SectReadLine(handle) == 0) return 0;
-    if (!SectPutLine(handle)) {
+    const int length = nextLine(handle);
+    if (length == 0) return 0;
+    if (length < 0) {
       std::printf("OpenNext: Error Writing File %s\n\n", handle->wfn);
       return ReadSectData(handle);
     }
@@ -209,28 +216,6 @@ SectHandle* ValidHandle(SectHandle* handle) {
   if (handle->cookie == sectCookie) return handle;
   sectTrace("ValidHandle: BAD cookie (h=%x c=%x)\n", sectTraceId(handle), handle->cookie);
   return nullptr;
-}
-
-int SectReadLine(SectHandle* handle) {
-  char* next = handle->linebuf;
-  const char* limit = handle->linebuf + sectLineBytes - 1;
-  while (next != limit) {
-    const int c = getc_unlocked(handle->rfd);
-    if (c == EOF) break;
-    *next++ = static_cast<char>(c);
-    if (c == '\n') break;
-  }
-  if (std::ferror(handle->rfd) != 0) {
-    std::printf("SectReadLine: Error Reading File %s\n\n", handle->rfn);
-    SectDamage(handle);
-    next = handle->linebuf;
-  }
-  *next = '\0';
-  handle->lineLength = static_cast<std::int32_t>(next - handle->linebuf);
-  if (handle->lineLength == 0) return 0;
-  ++handle->line;
-  sectTrace("line %-3d %s", handle->line, handle->linebuf);
-  return handle->lineLength;
 }
 
 int ReadSectData(SectHandle* handle) {

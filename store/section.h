@@ -46,9 +46,10 @@ constexpr int sectWrite = 2;
 constexpr int sectCreated = 4;
 
 constexpr std::uint32_t sectCookie = 0xDEADBEEF;
-constexpr int sectNameBytes = 128;   // file names and section paths, with their terminator
-constexpr int sectLineBytes = 256;   // a line with its terminator
-constexpr int sectDataBytes = 5476;  // the text of one section
+constexpr int sectNameBytes = 128;     // file names and section paths, with their terminator
+constexpr int sectLineBytes = 256;     // a line with its terminator
+constexpr int sectDataBytes = 5476;    // the text of one section
+constexpr int sectAheadBytes = 16384;  // read from the file at once
 
 struct SectHandle {
   std::uint32_t cookie;  // sectCookie while the handle is alive
@@ -63,12 +64,15 @@ struct SectHandle {
   char section[sectNameBytes];  // the current section's path
   char linebuf[sectLineBytes];  // the line last read, with its line end
   char data[sectDataBytes + 1];
-  std::int32_t lineLength;  // bytes in linebuf; a file may hold NULs
-  std::int32_t dataLength;  // bytes in data
-  const char* refusal;      // why WriteKey must not edit `data`, or null
-  bool linePending;         // linebuf is behind `data` and not yet written
-  bool midLine;             // the last byte written is no line end
-  bool damaged;             // a read or a write failed: the file is to be left alone
+  std::int32_t lineLength;     // bytes in linebuf; a file may hold NULs
+  std::int32_t dataLength;     // bytes in data
+  const char* refusal;         // why WriteKey must not edit `data`, or null
+  char ahead[sectAheadBytes];  // what has been read of rfd
+  std::int32_t aheadStart;     // where in `ahead` the bytes start that no line has taken yet
+  std::int32_t aheadEnd;       // and where they end
+  bool linePending;            // linebuf is behind `data` and not yet written
+  bool midLine;                // the last byte written is no line end
+  bool damaged;                // a read or a write failed: the file is to be left alone
 };
 
 // Tracing to standard output, off at the start, and the rule that stands in the traces.

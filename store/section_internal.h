@@ -14,6 +14,17 @@ constexpr std::size_t keyWordBytes = 128;  // a key with its terminator
 // the end of the file and, with a message, on an error, which damages the handle.
 int SectReadLine(SectHandle* handle);
 
+// Passes over, into the temporary file if there is one, whole lines without a bracket, as many as
+// can be told at once: none, perhaps. False on an error of writing, as SectPut.
+bool SectSkipLines(SectHandle* handle);
+
+// Copies what is left of the file into the temporary one. False, and the handle is damaged, on an
+// error.
+bool SectPutRest(SectHandle* handle);
+
+// Forgets what has been read ahead: rfd has been moved.
+void SectForgetAhead(SectHandle* handle);
+
 // Fills `data` from the next line on, up to and including the first that has a bracket anywhere.
 // Returns its length; 0 if there is none, or, with a message, if the section is too long.
 int ReadSectData(SectHandle* handle);

@@ -33,6 +33,7 @@ bool startOver(SectHandle* handle) {
     SectDamage(handle);
     return false;
   }
+  SectForgetAhead(handle);
   handle->line = 0;
   handle->nest = 0;
   handle->section[0] = '\0';
@@ -42,7 +43,7 @@ bool startOver(SectHandle* handle) {
 
 // Copies the lines in front of the one with the parent's head. Returns the head's bracket.
 const char* copyToHead(SectHandle* handle, std::string_view parent) {
-  while (SectReadLine(handle) > 0) {
+  while (SectSkipLines(handle) && SectReadLine(handle) > 0) {
     if (const char* mark = SectScanLine(handle, parent)) return mark;
     if (!SectPutLine(handle)) break;
   }
@@ -96,7 +97,7 @@ bool copyToEnd(SectHandle* handle, std::string_view parent) {
   int depth = 1;
   const char* end = findEnd(handle, head + 1, depth);
   while (end == nullptr) {
-    if (!SectPutLine(handle) || SectReadLine(handle) == 0) return false;
+    if (!SectPutLine(handle) || !SectSkipLines(handle) || SectReadLine(handle) == 0) return false;
     end = findEnd(handle, handle->linebuf, depth);
   }
   return parent == handle->section && !endsInHead(handle, end) && splitLine(handle, end);
@@ -120,11 +121,7 @@ bool putRest(SectHandle* handle) {
   if ((handle->rflg & sectCreated) != 0 && !SectPut(handle, bracketLine(handle->nest, ']', ""))) {
     return false;
   }
-  if (handle->linePending && !SectPutLine(handle)) return false;
-  while (SectReadLine(handle) > 0) {
-    if (!SectPutLine(handle)) return false;
-  }
-  return !handle->damaged;
+  return (!handle->linePending || SectPutLine(handle)) && SectPutRest(handle);
 }
 
 // Gives the temporary file the owner, group and mode of the file. An owner that this user may not
