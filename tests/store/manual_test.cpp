@@ -18,7 +18,6 @@ TEST(Manual, HasARowForEveryKey) {
       {".SS /GlobalSigParams0\n", globalSigKeys},
       {".SS /Adapter\\fIA\\fP\n", physicalKeys},
       {"/RedundantLink0\n", redundantLinkKeys},
-      {"/Signalling0\n", signallingKeys},
       {"/Signalling0\n", signallingWritten},
       {"/Q2931Section0\n", q2931Keys},
       {"/Q2931Section0\n", q2931Written},
