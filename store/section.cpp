@@ -6,6 +6,7 @@
 #include <new>
 
 #include "store/section_internal.h"
+#include "store/side_file.h"
 
 int dV = 0;
 const char SectDmsg[] =
@@ -57,8 +58,10 @@ bool setName(char (&field)[sectNameBytes], const char* name) {
   return true;
 }
 
+// What is no plain file might block or never end.
 bool openForReading(SectHandle* handle, const char* file) {
-  if (setName(handle->rfn, file)) handle->rfd = std::fopen(handle->rfn, "re");
+  if (setName(handle->rfn, file) && isPlainFile(handle->rfn))
+    handle->rfd = std::fopen(handle->rfn, "re");
   if (handle->rfd == nullptr) {
     std::printf("OpenSection: Error Opening File %s\n", file);
     return false;

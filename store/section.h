@@ -80,9 +80,9 @@ extern int dV;
 extern const char SectDmsg[];
 
 // Opens `file` on the section of the path, for example "/Adapter0/LEC3". Returns null if there is
-// no such file, with a message, or no such section, without one. With sectWrite a missing section
-// is created as the last child of its parent, which must be there, and null, with a message, also
-// tells that there can be no temporary file. One handle at a time may write.
+// no such plain file, with a message, or no such section, without one. With sectWrite a missing
+// section is created as the last child of its parent, which must be there, and null, with a
+// message, also tells that there can be no temporary file. One handle at a time may write.
 SectHandle* OpenSection(const char* file, const char* sectionPath, int flags);
 
 // Moves to the next text of the same path. Returns the handle, or null at the end of the file.

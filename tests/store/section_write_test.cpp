@@ -299,7 +299,7 @@ TEST_F(SectionWrite, TroubleLeavesTheOldFile) {
   EXPECT_EQ(printed([&] { EXPECT_EQ(CommitSection(handle.release()), -1); }),
             "CloseSection: Rename Error\n\n");
   EXPECT_EQ(printed([] { EXPECT_FALSE(open("/A")); }),
-            "SectReadLine: Error Reading File ./etc/atm/odconf\n\n");
+            "OpenSection: Error Opening File ./etc/atm/odconf\n");
   std::filesystem::remove(config);
 
   const std::string name = temporaryName(), padding = std::string(70, '#') + "\n";
