@@ -39,7 +39,7 @@ int refuse(const SectHandle* handle, const char* why, std::string_view key) {
 // The most that `data` may hold: a section that is still open needs room for its end.
 std::size_t capacity(const SectHandle* handle) {
   const bool created = (handle->rflg & sectCreated) != 0;
-  return static_cast<std::size_t>(sectDataBytes - (created ? handle->nest + 2 : 0));
+  return static_cast<std::size_t>(sectDataBytes - (created ? SectTabs(handle->nest) + 2 : 0));
 }
 
 // Puts `text` in the place of the characters; false if `data` has no room for it.
@@ -57,6 +57,12 @@ bool splice(SectHandle* handle, Span old, std::string_view text) {
 // Where the line with the character at `position` starts, as far as it is in `data`.
 std::size_t lineStart(std::string_view data, std::size_t position) {
   return data.substr(0, position).rfind('\n') + 1;
+}
+
+// Whether a head stands in front of the value on its line, and so may have it in its name.
+bool followsHead(std::string_view data, std::size_t position) {
+  const std::size_t start = lineStart(data, position);
+  return data.substr(start, position - start).find('[') != data.npos;
 }
 
 // Whether a value that changes its length would move brackets from one read of an over-long line
@@ -110,6 +116,7 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   if (endsWithText(data, place, type)) return -1;
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
+  if (followsHead(data, place.start)) return refuse(handle, "Head In Front Of The Value", key);
   if (asRead(text, type).empty() && textFollows(data, place)) {
     return refuse(handle, "Text Behind The Value", key);
   }
@@ -144,7 +151,7 @@ int insertLine(SectHandle* handle, std::string_view key, const std::string& text
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);
   const std::size_t position = newLinePosition(handle);
   const bool midLine = position == 0 ? handle->midLine : handle->data[position - 1] != '\n';
-  const int tabs = handle->nest + ((handle->rflg & sectCreated) != 0 ? 1 : 0);
+  const int tabs = SectTabs(handle->nest + ((handle->rflg & sectCreated) != 0 ? 1 : 0));
   const std::string line = (midLine ? "\n" : "") + keyLine(key, text, tabs);
   if (!splice(handle, {position, 0}, line)) return refuse(handle, "Buffer Exceeded", key);
   const char* written = handle->data + position;

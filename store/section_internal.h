@@ -49,6 +49,12 @@ void SectNameRev(SectHandle* handle);
 // The first `[` or `]` in linebuf from `from` on, or null; a comment ends the search.
 const char* SectNextMark(const SectHandle* handle, const char* from);
 
+// The tabs in front of a line at this depth. A section with a slash in its name takes one `]` for
+// each slash to leave, which can take the depth below 0.
+inline int SectTabs(int nest) {
+  return nest > 0 ? nest : 0;
+}
+
 // Follows the brackets of linebuf up to the first behind which the current section is `path`.
 // Returns that bracket, or null.
 const char* SectScanLine(SectHandle* handle, std::string_view path);

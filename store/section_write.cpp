@@ -104,7 +104,7 @@ bool copyToEnd(SectHandle* handle, std::string_view parent) {
 }
 
 std::string bracketLine(int nest, char bracket, std::string_view name) {
-  std::string line(static_cast<std::size_t>(nest), '\t');
+  std::string line(static_cast<std::size_t>(SectTabs(nest)), '\t');
   line += bracket;
   line += name;
   line += '\n';
