@@ -5,8 +5,8 @@
 #include <cstring>
 #include <new>
 
+#include "store/plain_file.h"
 #include "store/section_internal.h"
-#include "store/side_file.h"
 
 int dV = 0;
 const char SectDmsg[] =
