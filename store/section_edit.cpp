@@ -74,10 +74,10 @@ bool movesBrackets(std::string_view data, Span old, std::size_t length) {
   return length != old.length && holdsBracket(line) && longest + 1 >= sectLineBytes;
 }
 
-// Whether nothing but the end of `data` ends the value.
-bool endsWithText(std::string_view data, Span value, int type) {
-  const std::string_view behind = data.substr(value.start + value.length);
-  return type == T_STRING ? behind.find_first_not_of(' ') == behind.npos : behind.empty();
+// Whether nothing but the end of `data` ends the value, which may be about to be emptied.
+bool endsWithText(std::string_view data, Span value, int type, bool emptied) {
+  const char* blanks = emptied ? " \t" : type == T_STRING ? " " : "";
+  return data.find_first_not_of(blanks, value.start + value.length) == data.npos;
 }
 
 // Whether text behind a tab would take the place of a value that is emptied.
@@ -113,11 +113,12 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   const char* behind = old.data() + old.size();
   const std::string_view data = textOf(handle);
   const Span place = {static_cast<std::size_t>(position - data.data()), old.size()};
-  if (endsWithText(data, place, type)) return -1;
+  const bool emptied = asRead(text, type).empty();
+  if (endsWithText(data, place, type, emptied)) return -1;
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
   if (followsHead(data, place.start)) return refuse(handle, "Head In Front Of The Value", key);
-  if (asRead(text, type).empty() && textFollows(data, place)) {
+  if (emptied && textFollows(data, place)) {
     return refuse(handle, "Text Behind The Value", key);
   }
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);

@@ -224,6 +224,7 @@ TEST_F(SectionWrite, RefusesWhatWouldLoseSomething) {
   for (const char* file : {"[A\nK = 1", "[A\nK = 1 ", "[A\nK ="}) {
     EXPECT_EQ(afterSet(file, "/A", "K", "2", -1), file) << "a value at the very end";
   }
+  EXPECT_EQ(afterSet("[A\nK = 1\t", "/A", "K", "", -1), "[A\nK = 1\t");
 }
 
 TEST_F(SectionWrite, FillsASectionToTheByte) {
