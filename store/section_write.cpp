@@ -124,16 +124,20 @@ bool putRest(SectHandle* handle) {
   return (!handle->linePending || SectPutLine(handle)) && SectPutRest(handle);
 }
 
-// Gives the temporary file the owner, group and mode of the file. An owner that this user may not
-// give, or that has no number here, is not kept.
+// Whether the owner was given or is one that this user may not give or that has no number here.
+bool owned(int result) {
+  return result == 0 || errno == EPERM || errno == EINVAL;
+}
+
+// Gives the temporary file the owner, group and mode of the file. Of an owner that can't be given
+// the group alone is kept, if that goes.
 bool keepAttributes(SectHandle* handle) {
   struct stat old;
   const int target = fileno(handle->wfd);
   if (fstat(fileno(handle->rfd), &old) != 0) return false;
-  const bool owned = fchown(target, old.st_uid, old.st_gid) == 0 ||
-                     fchown(target, uid_t(-1), old.st_gid) == 0 || errno == EPERM ||
-                     errno == EINVAL;
-  return owned && fchmod(target, old.st_mode & 07777) == 0;
+  const int both = fchown(target, old.st_uid, old.st_gid);
+  return owned(both) && (both == 0 || owned(fchown(target, uid_t(-1), old.st_gid))) &&
+         fchmod(target, old.st_mode & 07777) == 0;
 }
 
 // Writes the temporary file to its end and forces it to disk.

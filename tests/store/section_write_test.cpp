@@ -306,6 +306,17 @@ TEST_F(SectionWrite, TroubleLeavesTheOldFile) {
             "OpenSection: Error Opening File ./etc/atm/odconf\n");
   std::filesystem::remove(config);
 
+  writeConfig(file);
+  handle = open("/A");
+  EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
+  std::filesystem::rename("etc", "moved");
+  EXPECT_EQ(printed([&] { handle.reset(); }), "CloseSection: Rename Error\n\n");
+  EXPECT_EQ(printed([] { EXPECT_FALSE(open("/A")); }),
+            "OpenSection: Error Opening File ./etc/atm/odconf\n");
+  std::filesystem::rename("moved", "etc");
+  EXPECT_EQ(read(config), file);
+  EXPECT_TRUE(std::filesystem::remove(temporaryName())) << "left where it could not be found";
+
   const std::string name = temporaryName(), padding = std::string(70, '#') + "\n";
   for (int i = 0; i < 1000; ++i) file += padding;
   writeConfig(file + "[B\n]\n");
