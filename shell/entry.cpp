@@ -7,10 +7,10 @@
 
 #include "applet/run_state.h"
 #include "foundation/odlog.h"
+#include "foundation/version.h"
 #include "framework/core/app.h"
 #include "framework/resources/resources.h"
 #include "shell/main_dialog.h"
-#include "foundation/version.h"
 
 namespace {
 

@@ -66,6 +66,7 @@ class DriverPdfEdit : public PdfEdit {
   void writeKeys(std::span<const SchemaKey> keys, void* record);
   void writeText(const char* key, std::string text);
   // Gives a service whose record names no side file the default name, in the record and the file.
+  // A record that has the default name already gives it to a file that names none.
   void nameSideFile(char* name, short adapter, int suffix);
   // Logs the path, opens the section and writes its keys; false if it can't be opened.
   bool writeSection(const std::string& path, std::span<const SchemaKey> keys, void* record);

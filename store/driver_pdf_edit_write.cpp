@@ -166,7 +166,13 @@ void DriverPdfEdit::writeText(const char* key, std::string text) {
 }
 
 void DriverPdfEdit::nameSideFile(char* name, short adapter, int suffix) {
-  if (*name != '\0') return;
-  std::snprintf(name, fileNameBytes, "%s/pvcconf%d.%d", atmDirectory, adapter, suffix);
-  writeText("PvcConfFile", name);
+  constexpr char key[] = "PvcConfFile";
+  char usual[fileNameBytes], old[fileNameBytes];
+  std::snprintf(usual, sizeof usual, "%s/pvcconf%d.%d", atmDirectory, adapter, suffix);
+  // A record may have the default name of a commit that did not reach the file.
+  const bool keep = *name != '\0' && (std::strcmp(name, usual) != 0 ||
+                                      QueryValue(key, old, T_STRING, sizeof old, false));
+  if (keep) return;
+  std::snprintf(name, fileNameBytes, "%s", usual);
+  writeText(key, name);
 }

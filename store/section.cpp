@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 
+#include "store/plain_file.h"
 #include "store/section_internal.h"
 
 int dV = 0;
@@ -40,6 +41,15 @@ bool holdsBracket(const SectHandle* handle) {
   return std::memchr(handle->linebuf, '[', length) || std::memchr(handle->linebuf, ']', length);
 }
 
+// Enters or leaves the section at a bracket of linebuf.
+void followMark(SectHandle* handle, const char* mark) {
+  if (*mark == '[') {
+    SectNameFwd(handle, mark);
+  } else {
+    SectNameRev(handle);
+  }
+}
+
 // Copies a file name into its field; false if it is too long.
 bool setName(char (&field)[sectNameBytes], const char* name) {
   const std::size_t length = std::strlen(name);
@@ -48,8 +58,10 @@ bool setName(char (&field)[sectNameBytes], const char* name) {
   return true;
 }
 
+// What is no plain file might block or never end.
 bool openForReading(SectHandle* handle, const char* file) {
-  if (setName(handle->rfn, file)) handle->rfd = std::fopen(handle->rfn, "re");
+  if (setName(handle->rfn, file) && isPlainFile(handle->rfn))
+    handle->rfd = std::fopen(handle->rfn, "re");
   if (handle->rfd == nullptr) {
     std::printf("OpenSection: Error Opening File %s\n", file);
     return false;
@@ -71,19 +83,25 @@ int loadBehind(SectHandle* handle, const char* mark) {
   return length;
 }
 
+// Reads on to a line that may hold a bracket and passes on everything up to its end. Returns its
+// length, 0 at the end of the file and -1 where writing failed.
+int nextLine(SectHandle* handle) {
+  if (!SectSkipLines(handle)) return -1;
+  const int length = SectReadLine(handle);
+  return SectPutLine(handle) ? length : -1;
+}
+
 // Positions the handle on the section, as far as that goes.
 bool findSection(SectHandle* handle, const char* path) {
   sectTrace("OpenSection: search=%s\n", path);
-  while (SectReadLine(handle) > 0) {
-    if (!SectPutLine(handle)) {
-      std::printf("OpenSection: Error Writing File %s\n\n", handle->wfn);
-      break;
-    }
+  int length;
+  while ((length = nextLine(handle)) > 0) {
     if (const char* mark = SectScanLine(handle, path)) {
       loadBehind(handle, mark);
       return true;
     }
   }
+  if (length < 0) std::printf("OpenSection: Error Writing File %s\n\n", handle->wfn);
   // What can't be read may hold the section.
   if (handle->wfd == nullptr || std::ferror(handle->rfd) != 0) return false;
   sectTrace("calling CreateSection...for '%s'\n", path);
@@ -105,8 +123,9 @@ bool openOn(SectHandle* handle, const char* file, const char* sectionPath) {
 int loadNext(SectHandle* handle, std::string_view path) {
   for (;;) {
     if (const char* mark = SectScanLine(handle, path)) return loadBehind(handle, mark);
-    if (SectReadLine(handle) == 0) return 0;
-    if (!SectPutLine(handle)) {
+    const int length = nextLine(handle);
+    if (length == 0) return 0;
+    if (length < 0) {
       std::printf("OpenNext: Error Writing File %s\n\n", handle->wfn);
       return ReadSectData(handle);
     }
@@ -170,20 +189,26 @@ SectHandle* OpenNextSection(SectHandle* handle) {
 }
 
 void CloseSection(SectHandle* handle) {
+  CommitSection(handle);
+}
+
+int CommitSection(SectHandle* handle) {
   if (handle == nullptr) {
     sectTrace("CloseSection: VOID handle\n");
-    return;
+    return 0;
   }
   if (handle->cookie != sectCookie) {
     sectTrace("CloseSection: BAD cookie (h=%x c=%x)\n", sectTraceId(handle), handle->cookie);
-    return;
+    return 0;
   }
-  if (handle->wfd != nullptr) SectCommit(handle);
+  const bool committed = handle->wfd == nullptr || SectCommit(handle);
+  const bool whole = committed && !handle->damaged;
   sectTrace("CloseSection: rfn=%s\n", handle->rfn);
   if (handle->rfd != nullptr) std::fclose(handle->rfd);
   sectTrace("CloseSection: handle=0x%x\n", sectTraceId(handle));
   handle->cookie = ~handle->cookie;
   delete handle;
+  return whole ? 0 : -1;
 }
 
 SectHandle* ValidHandle(SectHandle* handle) {
@@ -194,28 +219,6 @@ SectHandle* ValidHandle(SectHandle* handle) {
   if (handle->cookie == sectCookie) return handle;
   sectTrace("ValidHandle: BAD cookie (h=%x c=%x)\n", sectTraceId(handle), handle->cookie);
   return nullptr;
-}
-
-int SectReadLine(SectHandle* handle) {
-  char* next = handle->linebuf;
-  const char* limit = handle->linebuf + sectLineBytes - 1;
-  while (next != limit) {
-    const int c = getc_unlocked(handle->rfd);
-    if (c == EOF) break;
-    *next++ = static_cast<char>(c);
-    if (c == '\n') break;
-  }
-  if (std::ferror(handle->rfd) != 0) {
-    std::printf("SectReadLine: Error Reading File %s\n\n", handle->rfn);
-    SectDamage(handle);
-    next = handle->linebuf;
-  }
-  *next = '\0';
-  handle->lineLength = static_cast<std::int32_t>(next - handle->linebuf);
-  if (handle->lineLength == 0) return 0;
-  ++handle->line;
-  sectTrace("line %-3d %s", handle->line, handle->linebuf);
-  return handle->lineLength;
 }
 
 int ReadSectData(SectHandle* handle) {
@@ -290,14 +293,25 @@ const char* SectScanLine(SectHandle* handle, std::string_view path) {
   if (!holdsBracket(handle)) return nullptr;
   const char* mark = SectNextMark(handle, handle->linebuf);
   for (; mark != nullptr; mark = SectNextMark(handle, mark + 1)) {
-    if (*mark == '[') {
-      SectNameFwd(handle, mark);
-    } else {
-      SectNameRev(handle);
-    }
+    followMark(handle, mark);
     if (path == handle->section) break;
   }
   return mark;
+}
+
+bool SectListPaths(const char* file, std::vector<std::string>& paths) {
+  SectHandle handle = {};
+  const bool opened = openForReading(&handle, file);
+  while (opened && SectReadLine(&handle) > 0) {
+    const char* mark = SectNextMark(&handle, handle.linebuf);
+    for (; mark != nullptr; mark = SectNextMark(&handle, mark + 1)) {
+      const std::int32_t above = handle.nest;
+      followMark(&handle, mark);
+      if (handle.nest > above) paths.emplace_back(handle.section);
+    }
+  }
+  if (handle.rfd != nullptr) std::fclose(handle.rfd);
+  return opened && !handle.damaged;
 }
 
 void SectDump(const SectHandle* handle) {

@@ -46,9 +46,10 @@ constexpr int sectWrite = 2;
 constexpr int sectCreated = 4;
 
 constexpr std::uint32_t sectCookie = 0xDEADBEEF;
-constexpr int sectNameBytes = 128;   // file names and section paths, with their terminator
-constexpr int sectLineBytes = 256;   // a line with its terminator
-constexpr int sectDataBytes = 5476;  // the text of one section
+constexpr int sectNameBytes = 128;     // file names and section paths, with their terminator
+constexpr int sectLineBytes = 256;     // a line with its terminator
+constexpr int sectDataBytes = 5476;    // the text of one section
+constexpr int sectAheadBytes = 16384;  // read from the file at once
 
 struct SectHandle {
   std::uint32_t cookie;  // sectCookie while the handle is alive
@@ -63,12 +64,15 @@ struct SectHandle {
   char section[sectNameBytes];  // the current section's path
   char linebuf[sectLineBytes];  // the line last read, with its line end
   char data[sectDataBytes + 1];
-  std::int32_t lineLength;  // bytes in linebuf; a file may hold NULs
-  std::int32_t dataLength;  // bytes in data
-  const char* refusal;      // why WriteKey must not edit `data`, or null
-  bool linePending;         // linebuf is behind `data` and not yet written
-  bool midLine;             // the last byte written is no line end
-  bool damaged;             // a read or a write failed: the file is to be left alone
+  std::int32_t lineLength;     // bytes in linebuf; a file may hold NULs
+  std::int32_t dataLength;     // bytes in data
+  const char* refusal;         // why WriteKey must not edit `data`, or null
+  char ahead[sectAheadBytes];  // what has been read of rfd
+  std::int32_t aheadStart;     // where in `ahead` the bytes start that no line has taken yet
+  std::int32_t aheadEnd;       // and where they end
+  bool linePending;            // linebuf is behind `data` and not yet written
+  bool midLine;                // the last byte written is no line end
+  bool damaged;                // a read or a write failed: the file is to be left alone
 };
 
 // Tracing to standard output, off at the start, and the rule that stands in the traces.
@@ -76,9 +80,9 @@ extern int dV;
 extern const char SectDmsg[];
 
 // Opens `file` on the section of the path, for example "/Adapter0/LEC3". Returns null if there is
-// no such file, with a message, or no such section, without one. With sectWrite a missing section
-// is created as the last child of its parent, which must be there, and null, with a message, also
-// tells that there can be no temporary file. One handle at a time may write.
+// no such plain file, with a message, or no such section, without one. With sectWrite a missing
+// section is created as the last child of its parent, which must be there, and null, with a
+// message, also tells that there can be no temporary file. One handle at a time may write.
 SectHandle* OpenSection(const char* file, const char* sectionPath, int flags);
 
 // Moves to the next text of the same path. Returns the handle, or null at the end of the file.
@@ -87,6 +91,10 @@ SectHandle* OpenNextSection(SectHandle* handle);
 // Replaces the file if keys were written, closes it and releases the handle. Null, or a handle that
 // is not alive, does nothing.
 void CloseSection(SectHandle* handle);
+
+// The same for callers that want to know. Returns 0, or -1 if the file was to be replaced and was
+// not, or could not be read or copied on the way; then it is as it was.
+int CommitSection(SectHandle* handle);
 
 // Reads a key's value into `dst`. `len` is the room in bytes of a T_HEX or T_STRING target; the
 // numbers have their own width. Returns 0 when the value was stored, 1 for a key with an empty

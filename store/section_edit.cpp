@@ -59,6 +59,12 @@ std::size_t lineStart(std::string_view data, std::size_t position) {
   return data.substr(0, position).rfind('\n') + 1;
 }
 
+// Whether a head stands in front of the value on its line, and so may have it in its name.
+bool followsHead(std::string_view data, std::size_t position) {
+  const std::size_t start = lineStart(data, position);
+  return data.substr(start, position - start).find('[') != data.npos;
+}
+
 // Whether a value that changes its length would move brackets from one read of an over-long line
 // to another, so in front of or behind the start of a comment.
 bool movesBrackets(std::string_view data, Span old, std::size_t length) {
@@ -68,24 +74,16 @@ bool movesBrackets(std::string_view data, Span old, std::size_t length) {
   return length != old.length && holdsBracket(line) && longest + 1 >= sectLineBytes;
 }
 
-// Whether nothing but the end of `data` ends the value.
-bool endsWithText(std::string_view data, Span value, int type) {
-  const std::string_view behind = data.substr(value.start + value.length);
-  return type == T_STRING ? behind.find_first_not_of(' ') == behind.npos : behind.empty();
+// Whether nothing but the end of `data` ends the value, which may be about to be emptied.
+bool endsWithText(std::string_view data, Span value, int type, bool emptied) {
+  const char* blanks = emptied ? " \t" : type == T_STRING ? " " : "";
+  return data.find_first_not_of(blanks, value.start + value.length) == data.npos;
 }
 
 // Whether text behind a tab would take the place of a value that is emptied.
 bool textFollows(std::string_view data, Span value) {
   const std::size_t behind = data.find_first_not_of(" \t", value.start + value.length);
   return behind != data.npos && data[behind] != '#' && !isLineEnd(data[behind]);
-}
-
-// Whether the value is that of a head which stands between the key and the sign, as in "K [B = 1".
-bool isOfHead(std::string_view data, std::size_t value) {
-  data = data.substr(0, data.rfind('=', value - 1));
-  data = data.substr(0, data.find_last_not_of(" \t") + 1);
-  const std::size_t start = data.find_last_of("[=# \t\r\n");
-  return start != data.npos && data[start] == '[';
 }
 
 // Text loses the blanks around it when it is read.
@@ -115,11 +113,12 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   const char* behind = old.data() + old.size();
   const std::string_view data = textOf(handle);
   const Span place = {static_cast<std::size_t>(position - data.data()), old.size()};
-  if (endsWithText(data, place, type)) return -1;
+  const bool emptied = asRead(text, type).empty();
+  if (endsWithText(data, place, type, emptied)) return -1;
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
-  if (isOfHead(data, place.start)) return refuse(handle, "Value Of A Section Head", key);
-  if (asRead(text, type).empty() && textFollows(data, place)) {
+  if (followsHead(data, place.start)) return refuse(handle, "Head In Front Of The Value", key);
+  if (emptied && textFollows(data, place)) {
     return refuse(handle, "Text Behind The Value", key);
   }
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "store/section.h"
 
@@ -12,6 +13,17 @@ constexpr std::size_t keyWordBytes = 128;  // a key with its terminator
 // Reads a line of at most 255 characters into `linebuf` and counts it. Returns its length, 0 at
 // the end of the file and, with a message, on an error, which damages the handle.
 int SectReadLine(SectHandle* handle);
+
+// Passes over, into the temporary file if there is one, whole lines without a bracket, as many as
+// can be told at once: none, perhaps. False on an error of writing, as SectPut.
+bool SectSkipLines(SectHandle* handle);
+
+// Copies what is left of the file into the temporary one. False, and the handle is damaged, on an
+// error.
+bool SectPutRest(SectHandle* handle);
+
+// Forgets what has been read ahead: rfd has been moved.
+void SectForgetAhead(SectHandle* handle);
 
 // Fills `data` from the next line on, up to and including the first that has a bracket anywhere.
 // Returns its length; 0 if there is none, or, with a message, if the section is too long.
@@ -47,6 +59,10 @@ inline int SectTabs(int nest) {
 // Returns that bracket, or null.
 const char* SectScanLine(SectHandle* handle, std::string_view path);
 
+// Appends the path of every section that OpenSection could find in the file, in the file's order.
+// False, with a message, if the file can't be opened or read to its end.
+bool SectListPaths(const char* file, std::vector<std::string>& paths);
+
 // Where the key's value starts in `data`, which may be a line end or `#` for an empty one, or null.
 const char* FindKey(const SectHandle* handle, std::string_view key);
 
@@ -71,7 +87,8 @@ bool SectPutLine(SectHandle* handle);
 SectHandle* CreateSection(SectHandle* handle, const char* path);
 
 // Replaces the file by the temporary one if keys were written, else removes that. Closes both.
-void SectCommit(SectHandle* handle);
+// False, with a message, if the file was to be replaced and was not.
+bool SectCommit(SectHandle* handle);
 
 // Marks a handle whose file can't be read or written to its end.
 void SectDamage(SectHandle* handle);

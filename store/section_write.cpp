@@ -33,6 +33,7 @@ bool startOver(SectHandle* handle) {
     SectDamage(handle);
     return false;
   }
+  SectForgetAhead(handle);
   handle->line = 0;
   handle->nest = 0;
   handle->section[0] = '\0';
@@ -42,7 +43,7 @@ bool startOver(SectHandle* handle) {
 
 // Copies the lines in front of the one with the parent's head. Returns the head's bracket.
 const char* copyToHead(SectHandle* handle, std::string_view parent) {
-  while (SectReadLine(handle) > 0) {
+  while (SectSkipLines(handle) && SectReadLine(handle) > 0) {
     if (const char* mark = SectScanLine(handle, parent)) return mark;
     if (!SectPutLine(handle)) break;
   }
@@ -96,7 +97,7 @@ bool copyToEnd(SectHandle* handle, std::string_view parent) {
   int depth = 1;
   const char* end = findEnd(handle, head + 1, depth);
   while (end == nullptr) {
-    if (!SectPutLine(handle) || SectReadLine(handle) == 0) return false;
+    if (!SectPutLine(handle) || !SectSkipLines(handle) || SectReadLine(handle) == 0) return false;
     end = findEnd(handle, handle->linebuf, depth);
   }
   return parent == handle->section && !endsInHead(handle, end) && splitLine(handle, end);
@@ -120,23 +121,23 @@ bool putRest(SectHandle* handle) {
   if ((handle->rflg & sectCreated) != 0 && !SectPut(handle, bracketLine(handle->nest, ']', ""))) {
     return false;
   }
-  if (handle->linePending && !SectPutLine(handle)) return false;
-  while (SectReadLine(handle) > 0) {
-    if (!SectPutLine(handle)) return false;
-  }
-  return !handle->damaged;
+  return (!handle->linePending || SectPutLine(handle)) && SectPutRest(handle);
 }
 
-// Gives the temporary file the owner, group and mode of the file. An owner that this user may not
-// give, or that has no number here, is not kept.
+// Whether the owner was given or is one that this user may not give or that has no number here.
+bool owned(int result) {
+  return result == 0 || errno == EPERM || errno == EINVAL;
+}
+
+// Gives the temporary file the owner, group and mode of the file. Of an owner that can't be given
+// the group alone is kept, if that goes.
 bool keepAttributes(SectHandle* handle) {
   struct stat old;
   const int target = fileno(handle->wfd);
   if (fstat(fileno(handle->rfd), &old) != 0) return false;
-  const bool owned = fchown(target, old.st_uid, old.st_gid) == 0 ||
-                     fchown(target, uid_t(-1), old.st_gid) == 0 || errno == EPERM ||
-                     errno == EINVAL;
-  return owned && fchmod(target, old.st_mode & 07777) == 0;
+  const int both = fchown(target, old.st_uid, old.st_gid);
+  return owned(both) && (both == 0 || owned(fchown(target, uid_t(-1), old.st_gid))) &&
+         fchmod(target, old.st_mode & 07777) == 0;
 }
 
 // Writes the temporary file to its end and forces it to disk.
@@ -235,14 +236,13 @@ SectHandle* CreateSection(SectHandle* handle, const char* path) {
   return handle;
 }
 
-void SectCommit(SectHandle* handle) {
+bool SectCommit(SectHandle* handle) {
   sectTrace("CloseSection: wfn=%s flg=%d\n", handle->wfn, handle->wflg);
-  if (handle->wflg == 0) {
-    std::fclose(handle->wfd);
-    std::remove(handle->wfn);
-  } else if (!replaceFile(handle)) {
-    std::remove(handle->wfn);
-  }
+  const bool asked = handle->wflg != 0;
+  if (!asked) std::fclose(handle->wfd);
+  const bool replaced = asked && replaceFile(handle);
+  if (!replaced) std::remove(handle->wfn);
   handle->wfd = nullptr;
   writerOpen = false;
+  return replaced || !asked;
 }

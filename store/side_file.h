@@ -1,5 +1,4 @@
-// The side files: lists of records in the form of their stream operators. What is no plain file,
-// and so might block, never end or be no list of ours, is neither read nor written nor removed.
+// The side files: lists of records in the form of their stream operators.
 #pragma once
 
 #include <fstream>
@@ -8,16 +7,7 @@
 #include <vector>
 
 #include "foundation/odlog.h"
-
-// A file that is no plain one counts as missing.
-bool isPlainFile(const char* name);
-
-// Replaces what the file holds; it is made with mode 0664 if it is missing. Stops at the first
-// error, silently, with what has been written so far.
-void writePlainFile(const char* name, const std::vector<std::string>& pieces);
-
-// Removes the file if there is one.
-void removePlainFile(const char* name);
+#include "store/plain_file.h"
 
 // Appends the file's records to a list and logs each behind the note. A field missing from a record
 // is that of the record before it.

@@ -210,6 +210,22 @@ TEST_F(DriverPdfWrite, AnAdapterWithoutASectionIsNotCreated) {
   EXPECT_THAT(read(config), HasSubstr("[IP15770\n"));
 }
 
+TEST_F(DriverPdfWrite, ADefaultNameThatDidNotReachTheFileIsWrittenAgain) {
+  const std::string usual = "./etc/atm/pvcconf0.0";
+  const struct {
+    std::string record, before, after;
+  } rows[] = {{"", "", usual},           {"", "other", usual}, {usual, "", usual},
+              {usual, "other", "other"}, {"mine", "", ""},     {"mine", "other", "other"}};
+  for (const auto& row : rows) {
+    writeConfig("[Adapter0\n[LEC0\nPvcConfFile = " + row.before + "\n]\n]\n");
+    AtmLEC& lec = atmDevices.lec[0][0] = AtmLEC{};
+    row.record.copy(lec.PvcConfFile, fileNameBytes);
+    commit(0);
+    EXPECT_THAT(read(config), HasSubstr("PvcConfFile = " + row.after + "\n")) << row.record;
+    EXPECT_EQ(lec.PvcConfFile, row.record.empty() ? usual : row.record);
+  }
+}
+
 TEST_F(DriverPdfWrite, SideFiles) {
   write("clients", "old and longer than what comes\n");
   write("gone", "x");

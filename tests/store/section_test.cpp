@@ -1,5 +1,7 @@
 #include "store/section.h"
 
+#include <sys/stat.h>
+
 #include <cstring>
 #include <memory>
 #include <tuple>
@@ -176,13 +178,12 @@ TEST_F(Section, TellsWhatIsWrong) {
     writeConfig(row.file);
     EXPECT_EQ(printed([&] { open(row.path); }), row.text) << row.file.substr(0, 20);
   }
-  EXPECT_EQ(printed([&] { EXPECT_FALSE(Handle(OpenSection("no/file", "/A", sectRead))); }),
-            "OpenSection: Error Opening File no/file\n");
-  const std::string longName(300, 'f');
-  EXPECT_EQ(printed([&] { EXPECT_EQ(OpenSection(longName.c_str(), "/A", sectRead), nullptr); }),
-            "OpenSection: Error Opening File " + longName + "\n");
-  EXPECT_EQ(printed([] { EXPECT_EQ(OpenSection("etc", "/A", sectRead), nullptr); }),
-            "SectReadLine: Error Reading File etc\n\n");
+  ASSERT_EQ(mkfifo("pipe", 0600), 0);
+  for (const std::string& name : {std::string("no/file"), std::string(300, 'f'), std::string("etc"),
+                                  std::string("pipe"), std::string("/dev/zero")}) {
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OpenSection(name.c_str(), "/A", sectRead), nullptr); }),
+              "OpenSection: Error Opening File " + name + "\n");
+  }
 }
 
 TEST_F(Section, KeepsWithinItsBounds) {

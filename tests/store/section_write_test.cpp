@@ -202,8 +202,8 @@ TEST_F(SectionWrite, RefusesWhatWouldLoseSomething) {
       {"[A\n[B = 1\n]\n]\n", "[B", "2", "Bad Character In Key"},
       {"[A\n]\n", "", "2", "Bad Character In Key"},
       {"[A\nK = 1 ]\n", "K", "2", "Bracket In Old Value"},
-      {"[A\nK [B = 1\n]\n]\n", "K", "2", "Value Of A Section Head"},
       {"[A\nK = a\tb\n]\n", "K", "", "Text Behind The Value"},
+      {"[A\nK [B = 1\n]\n]\n", "K", "2", "Head In Front Of The Value"},
       {"[A\nL = K # c\n]\n", "K", "1", "Key Hidden By A Value"},
       {"[A\nL = 1\n" + comment + "\n]\n", "K", "12", "Line Exceeds Buffer"},
       {"[A\n" + std::string(5473, '#') + "\n]\n", "K", "1", "Buffer Exceeded"},
@@ -224,6 +224,7 @@ TEST_F(SectionWrite, RefusesWhatWouldLoseSomething) {
   for (const char* file : {"[A\nK = 1", "[A\nK = 1 ", "[A\nK ="}) {
     EXPECT_EQ(afterSet(file, "/A", "K", "2", -1), file) << "a value at the very end";
   }
+  EXPECT_EQ(afterSet("[A\nK = 1\t", "/A", "K", "", -1), "[A\nK = 1\t");
 }
 
 TEST_F(SectionWrite, FillsASectionToTheByte) {
@@ -299,10 +300,22 @@ TEST_F(SectionWrite, TroubleLeavesTheOldFile) {
   EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
   std::filesystem::remove(config);
   std::filesystem::create_directory(config);
+  EXPECT_EQ(printed([&] { EXPECT_EQ(CommitSection(handle.release()), -1); }),
+            "CloseSection: Rename Error\n\n");
+  EXPECT_EQ(printed([] { EXPECT_FALSE(open("/A")); }),
+            "OpenSection: Error Opening File ./etc/atm/odconf\n");
+  std::filesystem::remove(config);
+
+  writeConfig(file);
+  handle = open("/A");
+  EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
+  std::filesystem::rename("etc", "moved");
   EXPECT_EQ(printed([&] { handle.reset(); }), "CloseSection: Rename Error\n\n");
   EXPECT_EQ(printed([] { EXPECT_FALSE(open("/A")); }),
-            "SectReadLine: Error Reading File ./etc/atm/odconf\n\n");
-  std::filesystem::remove(config);
+            "OpenSection: Error Opening File ./etc/atm/odconf\n");
+  std::filesystem::rename("moved", "etc");
+  EXPECT_EQ(read(config), file);
+  EXPECT_TRUE(std::filesystem::remove(temporaryName())) << "left where it could not be found";
 
   const std::string name = temporaryName(), padding = std::string(70, '#') + "\n";
   for (int i = 0; i < 1000; ++i) file += padding;

@@ -1,4 +1,4 @@
-#include "store/side_file.h"
+#include "store/plain_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,11 +9,11 @@
 
 namespace {
 
-constexpr mode_t sideFileMode = 0664;
+constexpr mode_t newFileMode = 0664;
 
 // Does not wait for a reader of a pipe.
 int openPlainFile(const char* name) {
-  const int file = open(name, O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, sideFileMode);
+  const int file = open(name, O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, newFileMode);
   struct stat status;
   if (file < 0 || (fstat(file, &status) == 0 && S_ISREG(status.st_mode))) return file;
   close(file);
