@@ -272,6 +272,17 @@ TEST_F(SectionWrite, LeavesTheFileAloneUnlessAKeyWasWritten) {
   ASSERT_EQ(stat(config, &status), 0);
   EXPECT_EQ(status.st_uid, 12u);
   EXPECT_EQ(status.st_gid, 34u);
+
+  std::filesystem::permissions(".", std::filesystem::perms(0755));
+  for (const char* name : {"etc", "etc/atm"}) ASSERT_EQ(chown(name, 56, 78), 0);
+  ASSERT_EQ(chmod(config, 0604), 0);
+  ASSERT_EQ(seteuid(56), 0);
+  EXPECT_EQ(setText(open("/A").get(), "K", "4"), 0);
+  ASSERT_EQ(seteuid(0), 0);
+  ASSERT_EQ(stat(config, &status), 0);
+  EXPECT_EQ(status.st_uid, 56u) << "who may not give the file away keeps it";
+  EXPECT_EQ(status.st_mode & 07777, 0604u);
+  EXPECT_EQ(read(config), "[A\nK = 4\n]\n");
 }
 
 TEST_F(SectionWrite, TakesOnlyAPlainFileForItsLeftover) {
