@@ -276,6 +276,9 @@ TEST_F(SectionWrite, LeavesTheFileAloneUnlessAKeyWasWritten) {
 
 TEST_F(SectionWrite, TakesOnlyAPlainFileForItsLeftover) {
   const std::string file = "[A\nK = 1\n]\n", name = temporaryName();
+  write("here", file);
+  EXPECT_EQ(setText(Handle(OpenSection("here", "/A", sectWrite)).get(), "K", "2"), 0);
+  EXPECT_EQ(read("here"), "[A\nK = 2\n]\n") << "a file without a folder in its name";
   const std::string message = "OpenSection: Error Opening File " + name + "\n";
   writeConfig(file);
   write("victim", "precious");
@@ -334,6 +337,17 @@ TEST_F(SectionWrite, TroubleLeavesTheOldFile) {
               }),
               path == std::string("/A") ? closing : opening + "Section" + closing.substr(12));
   }
+  EXPECT_EQ(printed([&] {
+              handle = open("/A");
+              EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
+              setrlimit(RLIMIT_FSIZE, &limit);
+              EXPECT_EQ(OpenNextSection(handle.get()), nullptr);
+              setrlimit(RLIMIT_FSIZE, &none);
+              EXPECT_EQ(setText(handle.get(), "K", "3"), -1);
+              EXPECT_EQ(CommitSection(handle.release()), -1);
+            }),
+            "OpenNext: Error Writing File " + name +
+                "\n\nReadSectData: Buffer Exceeded\nWriteKey: File Error key=K sect=\n");
   EXPECT_EQ(read(config), file + "[B\n]\n");
   if (getuid() == 0) return;
   std::filesystem::permissions("etc", std::filesystem::perms(0500));
