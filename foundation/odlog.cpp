@@ -1,8 +1,6 @@
 #include "foundation/odlog.h"
 
-#include <unistd.h>
-
-#include <cerrno>
+#include "foundation/write_all.h"
 
 LogStream odlog;
 
@@ -27,13 +25,7 @@ LogStream::Buffer::int_type LogStream::Buffer::overflow(int_type c) {
 }
 
 int LogStream::Buffer::sync() {
-  const char* from = pbase();
-  while (from < pptr()) {
-    const ssize_t written = ::write(descriptor_, from, static_cast<size_t>(pptr() - from));
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return -1;
-    from += written;
-  }
+  if (!writeAll(descriptor_, {pbase(), pptr()})) return -1;
   setp(text_, text_ + sizeof text_);
   return 0;
 }

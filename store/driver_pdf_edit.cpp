@@ -110,8 +110,7 @@ void DriverPdfEdit::readKeys(std::span<const SchemaKey> keys, void* record) {
       case KeyForm::esiAndSelector:
         readAddressPart(key, *reinterpret_cast<atmAddress*>(field));
         break;
-      case KeyForm::prefixBytes:
-        QueryValue(key.name, field, T_HEX, networkPrefixBytes, true);
+      case KeyForm::sigPrefix:  // ReadSig reads it, by its older name too
         break;
     }
   }

@@ -35,14 +35,11 @@ std::string localTime() {
   return {text, length};
 }
 
-// An address part's digits, in `getBuffer`.
-const char* digitsOf(const SchemaKey& key, const void* field) {
+// An address's digits, in `getBuffer`.
+const char* digitsOf(KeyForm form, const void* field) {
+  if (form == KeyForm::sigPrefix) return static_cast<const AtmSig*>(field)->GetNetworkPrefix();
   const auto* address = static_cast<const atmAddress*>(field);
-  if (key.form == KeyForm::networkPrefix) return address->GetNetworkPrefix();
-  if (key.form == KeyForm::esiAndSelector) return address->GetESISelector();
-  atmAddress prefix = dfltAtmAddress;
-  prefix.fromHex(static_cast<const unsigned char*>(field), networkPrefixBytes);
-  return prefix.GetNetworkPrefix();
+  return form == KeyForm::networkPrefix ? address->GetNetworkPrefix() : address->GetESISelector();
 }
 
 }  // namespace
@@ -152,8 +149,8 @@ void DriverPdfEdit::writeKeys(std::span<const SchemaKey> keys, void* record) {
         break;
       case KeyForm::networkPrefix:
       case KeyForm::esiAndSelector:
-      case KeyForm::prefixBytes:
-        writeText(key.name, digitsOf(key, field));
+      case KeyForm::sigPrefix:
+        writeText(key.name, digitsOf(key.form, field));
         break;
       case KeyForm::sideFile:
         break;

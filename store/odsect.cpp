@@ -11,7 +11,6 @@
 #include <cstring>
 #include <iterator>
 #include <limits>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -77,11 +76,6 @@ bool hasLength(const Request& request) {
   return request.length > 0 && (request.type->type == T_HEX || request.type->type == T_STRING);
 }
 
-struct Closer {
-  void operator()(SectHandle* handle) const { CloseSection(handle); }
-};
-using Handle = std::unique_ptr<SectHandle, Closer>;
-
 // A whole word as a decimal number.
 bool readNumber(std::string_view word, long least, long most, long& number) {
   const char* end = word.data() + word.size();
@@ -126,8 +120,8 @@ void explainOpening(const Request& request, int flags) {
 }
 
 // The section, or null with a message.
-Handle openAt(const Request& request, int flags) {
-  Handle handle(OpenSection(request.file, request.operands[0], flags));
+SectOwner openAt(const Request& request, int flags) {
+  SectOwner handle(OpenSection(request.file, request.operands[0], flags));
   for (int i = 0; handle && i < request.next; ++i) {
     if (OpenNextSection(handle.get()) == nullptr) handle.reset();
   }
@@ -148,7 +142,7 @@ std::string valueText(const Request& request, SectHandle* handle, std::string& b
 }
 
 Status getKey(const Request& request) {
-  const Handle handle = openAt(request, sectRead);
+  const SectOwner handle = openAt(request, sectRead);
   if (!handle) return notOpened;
   const int length = hasLength(request) ? request.length : request.type->length;
   std::string bytes(static_cast<std::size_t>(length), '\0');
@@ -219,7 +213,7 @@ bool valueBytes(const Request& request, std::string& bytes) {
 Status setKey(const Request& request) {
   std::string bytes;
   if (!valueBytes(request, bytes)) return keyTrouble;
-  Handle handle = openAt(request, sectWrite);
+  SectOwner handle = openAt(request, sectWrite);
   if (!handle) return notOpened;
   const char* key = request.operands[1];
   const bool written = WriteKey(handle.get(), key, bytes.data(), request.type->type,

@@ -1,7 +1,6 @@
 // Typed keys over the section library: one open section at a time of the one configuration file.
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "store/section.h"
@@ -43,14 +42,10 @@ class PdfEdit {
   void closeKey() { section_.reset(); }
 
  private:
-  struct Closer {
-    void operator()(SectHandle* handle) const { CloseSection(handle); }
-  };
-
   zWindow* parent_;
   Outcome status_ = good;
   bool displayErrors_;
-  std::unique_ptr<SectHandle, Closer> section_;
+  SectOwner section_;
   char pdfFileName_[sectNameBytes];
   std::string basePath_;  // the directory with its trailing slash
 };

@@ -4,8 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <string_view>
+#include "foundation/write_all.h"
 
 namespace {
 
@@ -18,16 +17,6 @@ int openPlainFile(const char* name) {
   if (file < 0 || (fstat(file, &status) == 0 && S_ISREG(status.st_mode))) return file;
   close(file);
   return -1;
-}
-
-bool writeAll(int file, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t written = write(file, text.data(), text.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
 }
 
 }  // namespace

@@ -152,7 +152,7 @@ constexpr SchemaKey ilmi[] = {
   offsetof(AtmSig, cfg) + offsetof(sigPortCfg_s, member), sizeof(sigPortCfg_s::member)
 
 constexpr SchemaKey signallingOut[] = {
-    {"NetPrefix", T_STRING, prefixBytes, CFG_FIELD(NetPrefix)},
+    {"NetPrefix", T_STRING, sigPrefix, 0, sizeof(AtmSig)},
     {"Enabled", T_LONG, number, FIELD(AtmSig, Enabled)},
     {"UniRev", T_LONG, number, FIELD(AtmSig, UniRev)},
     {"AddressRegistration", T_CHAR, number, CFG_FIELD(AddressRegistration)},

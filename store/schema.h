@@ -16,7 +16,7 @@ enum class KeyForm : std::uint8_t {
   sideFile,        // the same, the name of a side file: a name that is there is not written
   networkPrefix,   // the first 13 bytes of an atmAddress, in the file as digits
   esiAndSelector,  // the last 7 bytes of an atmAddress, in the file as digits
-  prefixBytes,     // 13 bytes of network prefix, written as digits
+  sigPrefix,       // the network prefix of an AtmSig, written as digits
 };
 
 struct SchemaKey {

@@ -60,8 +60,8 @@ bool setName(char (&field)[sectNameBytes], const char* name) {
 
 // What is no plain file might block or never end.
 bool openForReading(SectHandle* handle, const char* file) {
-  if (setName(handle->rfn, file) && isPlainFile(handle->rfn))
-    handle->rfd = std::fopen(handle->rfn, "re");
+  const bool plain = setName(handle->rfn, file) && isPlainFile(handle->rfn);
+  if (plain) handle->rfd = std::fopen(handle->rfn, "re");
   if (handle->rfd == nullptr) {
     std::printf("OpenSection: Error Opening File %s\n", file);
     return false;
@@ -290,7 +290,6 @@ const char* SectNextMark(const SectHandle* handle, const char* from) {
 }
 
 const char* SectScanLine(SectHandle* handle, std::string_view path) {
-  if (!holdsBracket(handle)) return nullptr;
   const char* mark = SectNextMark(handle, handle->linebuf);
   for (; mark != nullptr; mark = SectNextMark(handle, mark + 1)) {
     followMark(handle, mark);
@@ -302,7 +301,7 @@ const char* SectScanLine(SectHandle* handle, std::string_view path) {
 bool SectListPaths(const char* file, std::vector<std::string>& paths) {
   SectHandle handle = {};
   const bool opened = openForReading(&handle, file);
-  while (opened && SectReadLine(&handle) > 0) {
+  while (opened && nextLine(&handle) > 0) {
     const char* mark = SectNextMark(&handle, handle.linebuf);
     for (; mark != nullptr; mark = SectNextMark(&handle, mark + 1)) {
       const std::int32_t above = handle.nest;

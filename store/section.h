@@ -27,6 +27,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 
 // Type codes of values.
 enum ValueType : short {
@@ -95,6 +96,12 @@ void CloseSection(SectHandle* handle);
 // The same for callers that want to know. Returns 0, or -1 if the file was to be replaced and was
 // not, or could not be read or copied on the way; then it is as it was.
 int CommitSection(SectHandle* handle);
+
+// Owns a handle and closes it at the end.
+struct SectCloser {
+  void operator()(SectHandle* handle) const { CloseSection(handle); }
+};
+using SectOwner = std::unique_ptr<SectHandle, SectCloser>;
 
 // Reads a key's value into `dst`. `len` is the room in bytes of a T_HEX or T_STRING target; the
 // numbers have their own width. Returns 0 when the value was stored, 1 for a key with an empty

@@ -118,9 +118,7 @@ int replaceValue(SectHandle* handle, std::string_view key, const char* position,
   if (asRead(text, type) == old) return 0;
   if (holdsBracket(old)) return refuse(handle, "Bracket In Old Value", key);
   if (followsHead(data, place.start)) return refuse(handle, "Head In Front Of The Value", key);
-  if (emptied && textFollows(data, place)) {
-    return refuse(handle, "Text Behind The Value", key);
-  }
+  if (emptied && textFollows(data, place)) return refuse(handle, "Text Behind The Value", key);
   if (const char* trouble = troubleWith(text)) return refuse(handle, trouble, key);
   std::string value;
   if (old.empty() && position[-1] != ' ') value += ' ';

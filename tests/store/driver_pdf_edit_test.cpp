@@ -11,11 +11,6 @@
 
 namespace {
 
-std::string sampleText() {
-  std::ifstream in(ONDRELLE_SOURCE_DIR "/data/odconf.sample", std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
 template <class Value>
 std::string text(const Value& value) {
   std::ostringstream out;
@@ -44,7 +39,7 @@ class DriverPdf : public StoreTest {
 
 TEST_F(DriverPdf, ReadsTheSample) {
   write("./etc/atm/elan0.0", "00a03e000001/00\n00a03e000002/0f\n");
-  EXPECT_EQ(printed([&] { read(sampleText()); }), "");
+  EXPECT_EQ(printed([&] { read(sample()); }), "");
   struct {
     int primary, backup, autoSwitch, interrupt, framing;
   } const links[] = {
@@ -219,7 +214,7 @@ TEST_F(DriverPdf, ListsOfCircuits) {
 
 TEST_F(DriverPdf, DamagedFilesDoNoHarm) {
   std::mt19937 random(20);
-  const std::string sample = sampleText();
+  const std::string whole = sample();
   const std::string pieces[] = {"[",
                                 "]",
                                 "#",
@@ -232,7 +227,7 @@ TEST_F(DriverPdf, DamagedFilesDoNoHarm) {
                                 std::string(7000, ' '),
                                 "K = "};
   for (int round = 0; round < 40; ++round) {
-    std::string file = sample.substr(0, random() % sample.size());
+    std::string file = whole.substr(0, random() % whole.size());
     for (int change = 0; change < 30 && !file.empty(); ++change) {
       file.insert(random() % file.size(), pieces[random() % std::size(pieces)]);
     }

@@ -24,7 +24,6 @@ class DriverPdfWrite : public StoreTest {
   static std::string commit(short adapter) {
     return logged([adapter] { DriverPdfEdit(nullptr, false).WriteLink(adapter); });
   }
-  static std::string sample() { return read(ONDRELLE_SOURCE_DIR "/data/odconf.sample"); }
 };
 
 std::vector<std::string> linesOf(const std::string& text) {

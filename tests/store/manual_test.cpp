@@ -1,16 +1,13 @@
 // The manual page of the configuration file has a row for every key, in its section's table.
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
-
 #include "store/schema.h"
+#include "store_fixture.h"
 
 namespace {
 
-TEST(Manual, HasARowForEveryKey) {
-  std::ifstream file(ONDRELLE_SOURCE_DIR "/docs/man/odconf.5");
-  const std::string page(std::istreambuf_iterator<char>(file), {});
+using Manual = StoreTest;
+
+TEST_F(Manual, HasARowForEveryKey) {
+  const std::string page = read(ONDRELLE_SOURCE_DIR "/docs/man/odconf.5");
   const struct {
     std::string head;
     std::span<const SchemaKey> keys;

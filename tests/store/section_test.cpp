@@ -3,18 +3,12 @@
 #include <sys/stat.h>
 
 #include <cstring>
-#include <memory>
 #include <tuple>
 
 #include "store/section_internal.h"
 #include "store_fixture.h"
 
 namespace {
-
-struct Closer {
-  void operator()(SectHandle* handle) const { CloseSection(handle); }
-};
-using Handle = std::unique_ptr<SectHandle, Closer>;
 
 // A key as text: "missing", "empty", or the value.
 std::string value(SectHandle* handle, const char* key) {
@@ -31,11 +25,11 @@ std::string value(SectHandle* handle, const char* key) {
 
 class Section : public StoreTest {
  protected:
-  static Handle open(const char* path) { return Handle(OpenSection(config, path, sectRead)); }
+  static SectOwner open(const char* path) { return SectOwner(OpenSection(config, path, sectRead)); }
 
   // The key's value in the first section of the path, or "no section".
   static std::string lookUp(const char* path, const char* key) {
-    const Handle handle = open(path);
+    const SectOwner handle = open(path);
     return handle ? value(handle.get(), key) : "no section";
   }
 };
@@ -131,7 +125,7 @@ TEST_F(Section, ConvertsByType) {
   };
   for (const auto& [text, type, len, result, expected] : rows) {
     writeConfig(std::string("[A\nK = ") + text + "\n]\n");
-    const Handle handle = open("/A");
+    const SectOwner handle = open("/A");
     ASSERT_TRUE(handle);
     unsigned char target[4] = {0x2e, 0x2e, 0x2e, 0x2e};
     EXPECT_EQ(ReadKey(handle.get(), "K", target, type, len), result) << text;
@@ -147,7 +141,7 @@ TEST_F(Section, ConvertsByType) {
 
 TEST_F(Section, MovesOnToLaterTextOfThePath) {
   writeConfig("[A\nK = 1\n[B\nK = b\n]\nK = 2\n[C\n]\n# c\nK = 3\n]\n[D\n]\n[A\nK = 4\n]\n");
-  Handle handle = open("/A");
+  SectOwner handle = open("/A");
   for (const char* expected : {"1", "2", "3", "4"}) {
     ASSERT_TRUE(handle);
     EXPECT_EQ(value(handle.get(), "K"), expected);
@@ -190,7 +184,7 @@ TEST_F(Section, KeepsWithinItsBounds) {
   const std::string name(126, 'n'), key(127, 'k'), text(250, 'v');
   writeConfig("[" + name + "\n" + key + "=" + std::string(90, '7') + "\n" + key + "x=2\nK=" + text +
               "\nS=" + std::string(300, 's') + "\nL = 1\n]\n");
-  const Handle handle = open(("/" + name).c_str());
+  const SectOwner handle = open(("/" + name).c_str());
   ASSERT_TRUE(handle);
   EXPECT_EQ(value(handle.get(), key.c_str()), std::string(90, '7'));
   EXPECT_EQ(value(handle.get(), (key + "x").c_str()), "missing");
@@ -217,7 +211,7 @@ TEST_F(Section, HandlesTellWhetherTheyLive) {
   CloseSection(&dead);
   EXPECT_EQ(OpenNextSection(nullptr), nullptr);
   EXPECT_EQ(ReadKey(nullptr, "K", nullptr, T_INT, 4), -1);
-  const Handle handle = open("/A");
+  const SectOwner handle = open("/A");
   EXPECT_EQ(ValidHandle(handle.get()), handle.get());
   EXPECT_STREQ(handle->section, "/A");
   EXPECT_STREQ(handle->data, "K = 1\n]\n");
@@ -234,7 +228,7 @@ TEST_F(Section, TracesUnderTheFlag) {
     dV = 1;
     lookUp("/A", "K");
     std::int32_t number = 2;
-    WriteKey(Handle(OpenSection(config, "/A/B", sectWrite)).get(), "K", &number, T_INT, 4);
+    WriteKey(SectOwner(OpenSection(config, "/A/B", sectWrite)).get(), "K", &number, T_INT, 4);
     dV = 0;
   });
   for (const char* line :

@@ -5,7 +5,6 @@
 
 #include <csignal>
 #include <cstring>
-#include <memory>
 
 #include "store/section.h"
 #include "store_fixture.h"
@@ -13,11 +12,6 @@
 namespace {
 
 using testing::HasSubstr;
-
-struct Closer {
-  void operator()(SectHandle* handle) const { CloseSection(handle); }
-};
-using Handle = std::unique_ptr<SectHandle, Closer>;
 
 std::string temporaryName() {
   char name[64];
@@ -35,14 +29,16 @@ class SectionWrite : public StoreTest {
     EXPECT_FALSE(std::filesystem::exists(std::filesystem::symlink_status(temporaryName())));
   }
 
-  static Handle open(const char* path) { return Handle(OpenSection(config, path, sectWrite)); }
+  static SectOwner open(const char* path) {
+    return SectOwner(OpenSection(config, path, sectWrite));
+  }
 
   // What the file holds after a text was set in the section of the path; the messages go unseen.
   static std::string afterSet(const std::string& file, const char* path, const char* key,
                               const std::string& text, int result = 0) {
     writeConfig(file);
     printed([&] {
-      const Handle handle = open(path);
+      const SectOwner handle = open(path);
       ASSERT_TRUE(handle) << file;
       EXPECT_EQ(setText(handle.get(), key, text), result) << file << text;
     });
@@ -100,7 +96,7 @@ TEST_F(SectionWrite, FormatsByType) {
     EXPECT_TRUE(type != T_STRING || len == 0 || value[len - 1] == '\0') << "the caller's text";
   }
   char value[4] = {};
-  const Handle handle = open("/A");
+  const SectOwner handle = open("/A");
   EXPECT_EQ(WriteKey(handle.get(), "K", value, T_HEX, 0), -1);
   EXPECT_EQ(WriteKey(handle.get(), "K", value, 8, 4), -1);
   EXPECT_EQ(WriteKey(nullptr, "K", value, T_INT, 4), -1);
@@ -160,7 +156,7 @@ TEST_F(SectionWrite, CreatesSections) {
   for (const auto& row : rows) {
     writeConfig(row.before);
     printed([&] {
-      const Handle handle = open(row.path);
+      const SectOwner handle = open(row.path);
       ASSERT_EQ(handle != nullptr, row.after != nullptr) << row.before << row.path;
       EXPECT_EQ(handle ? setText(handle.get(), "K", "v") : 0, 0);
       EXPECT_EQ(OpenNextSection(handle.get()), nullptr);
@@ -176,7 +172,7 @@ TEST_F(SectionWrite, CreatesSections) {
 
 TEST_F(SectionWrite, EditsLaterTextOfThePath) {
   writeConfig("[A\nK = 1\n[B\n]\nK = 2\n]\n[A\nK = 3\n]\n# end\n");
-  Handle handle = open("/A");
+  SectOwner handle = open("/A");
   for (const char* text : {"x", "yy", "z"}) {
     EXPECT_EQ(setText(handle.get(), "K", text), 0);
     EXPECT_EQ(OpenNextSection(handle.get()), *text == 'z' ? nullptr : handle.get());
@@ -215,7 +211,7 @@ TEST_F(SectionWrite, RefusesWhatWouldLoseSomething) {
     writeConfig(row.file);
     const char* path = row.file[2] == ' ' ? "/A1" : "/A";
     const std::string text = printed([&] {
-      const Handle handle = open(path);
+      const SectOwner handle = open(path);
       EXPECT_EQ(setText(handle.get(), row.key.c_str(), row.text), -1) << row.why;
     });
     EXPECT_THAT(text, HasSubstr(std::string("WriteKey: ") + row.why + " key=" + row.key));
@@ -232,7 +228,7 @@ TEST_F(SectionWrite, FillsASectionToTheByte) {
   EXPECT_EQ(afterSet(full, "/A", "K", "12").size(), full.size() + 1);
   writeConfig("[A\n]\n");
   printed([] {
-    const Handle handle = open("/A/B");
+    const SectOwner handle = open("/A/B");
     int keys = 0;
     while (setText(handle.get(), ("Key" + std::to_string(keys)).c_str(), "value") == 0) ++keys;
     EXPECT_GT(keys, 200);
@@ -241,7 +237,7 @@ TEST_F(SectionWrite, FillsASectionToTheByte) {
   const std::string file = "[A\nK = 1\n]\n[A\nL = 1\n" + std::string(5476, '.') + "\n]\n[B\n]\n";
   writeConfig(file);
   printed([] {
-    const Handle handle = open("/A");
+    const SectOwner handle = open("/A");
     EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
     EXPECT_EQ(OpenNextSection(handle.get()), nullptr);
     EXPECT_EQ(setText(handle.get(), "L", "2"), -1);
@@ -255,8 +251,8 @@ TEST_F(SectionWrite, LeavesTheFileAloneUnlessAKeyWasWritten) {
   const auto longAgo = std::filesystem::file_time_type{} + std::chrono::hours(24);
   std::filesystem::last_write_time(config, longAgo);
   printed([] {
-    { const Handle handle = open("/A"); }
-    { const Handle handle = open("/A/B"); }
+    { const SectOwner handle = open("/A"); }
+    { const SectOwner handle = open("/A/B"); }
     EXPECT_EQ(setText(open("/A").get(), "K", "#"), -1);
     EXPECT_FALSE(open("/C"));
   });
@@ -288,7 +284,7 @@ TEST_F(SectionWrite, LeavesTheFileAloneUnlessAKeyWasWritten) {
 TEST_F(SectionWrite, TakesOnlyAPlainFileForItsLeftover) {
   const std::string file = "[A\nK = 1\n]\n", name = temporaryName();
   write("here", file);
-  EXPECT_EQ(setText(Handle(OpenSection("here", "/A", sectWrite)).get(), "K", "2"), 0);
+  EXPECT_EQ(setText(SectOwner(OpenSection("here", "/A", sectWrite)).get(), "K", "2"), 0);
   EXPECT_EQ(read("here"), "[A\nK = 2\n]\n") << "a file without a folder in its name";
   const std::string message = "OpenSection: Error Opening File " + name + "\n";
   writeConfig(file);
@@ -302,7 +298,7 @@ TEST_F(SectionWrite, TakesOnlyAPlainFileForItsLeftover) {
   EXPECT_EQ(read("victim"), "precious");
   EXPECT_EQ(read(config), file);
   write(name, "left by a crash");
-  const Handle handle = open("/A");
+  const SectOwner handle = open("/A");
   EXPECT_TRUE(handle);
   EXPECT_EQ(printed([] { EXPECT_FALSE(open("/A")); }), message) << "one writer at a time";
 }
@@ -310,7 +306,7 @@ TEST_F(SectionWrite, TakesOnlyAPlainFileForItsLeftover) {
 TEST_F(SectionWrite, TroubleLeavesTheOldFile) {
   std::string file = "[A\nK = 1\n]\n";
   writeConfig(file);
-  Handle handle = open("/A");
+  SectOwner handle = open("/A");
   EXPECT_EQ(setText(handle.get(), "K", "2"), 0);
   std::filesystem::remove(config);
   std::filesystem::create_directory(config);

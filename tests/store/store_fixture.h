@@ -33,6 +33,7 @@ class StoreTest : public testing::Test {
     std::ifstream stream(name, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
   }
+  static std::string sample() { return read(ONDRELLE_SOURCE_DIR "/data/odconf.sample"); }
   static void writeConfig(const std::string& text) { write(config, text); }
 
   // What `action` prints to standard output.
