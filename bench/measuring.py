@@ -4,6 +4,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 import time
 
 SOURCE = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -13,6 +14,19 @@ def need(tool, package):
     """Ends the script with one clear line when a tool is missing."""
     if not shutil.which(tool):
         sys.exit(f"Missing {tool}: install it with 'apt-get install {package}'.")
+
+
+def run_bench(usage, count, measure):
+    """A script of a build folder and a count, which is this one if it is left out: measures on
+    $DISPLAY, in a folder of its own."""
+    if len(sys.argv) not in (2, 3) or "DISPLAY" not in os.environ:
+        sys.exit(usage)
+    need("xtrace", "xtrace")
+    build = os.path.abspath(sys.argv[1])
+    with tempfile.TemporaryDirectory() as scratch:
+        os.chdir(scratch)
+        measure(build, int(sys.argv[2]) if len(sys.argv) > 2 else count)
+        os.chdir("/")
 
 
 def wait_for(what, condition, seconds=20):

@@ -7,10 +7,9 @@ requests, beside those of other monitors in the same seconds. Needs xtrace and x
 import os
 import shutil
 import sys
-import tempfile
 import time
 
-from measuring import Driver, Proxy, need, wait_for
+from measuring import Driver, Proxy, run_bench, wait_for
 
 PERIOD = 6  # seconds of the main timer
 # Primitive and type.
@@ -68,15 +67,4 @@ def measure(build, polls):
             print(f"  Missing {peer[0]}: install it with 'apt-get install x11-apps'.")
 
 
-def main():
-    if len(sys.argv) not in (2, 3) or "DISPLAY" not in os.environ:
-        sys.exit(__doc__)
-    need("xtrace", "xtrace")
-    build = os.path.abspath(sys.argv[1])
-    with tempfile.TemporaryDirectory() as scratch:
-        os.chdir(scratch)
-        measure(build, int(sys.argv[2]) if len(sys.argv) > 2 else 10)
-        os.chdir("/")
-
-
-main()
+run_bench(__doc__, 10, measure)

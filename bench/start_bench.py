@@ -4,13 +4,10 @@
 Measures on $DISPLAY what the applet takes to show its main window, beside a bare Motif window of
 as many widgets, in turns; prints medians. Needs xtrace.
 """
-import os
 import statistics
 import subprocess
-import sys
-import tempfile
 
-from measuring import Driver, Proxy, need, wait_for
+from measuring import Driver, Proxy, run_bench, wait_for
 
 SHOW_DELAY_MS = 300  # zDialogFrame::showDelayMs
 ROWS = [
@@ -58,16 +55,9 @@ def measure(build, runs):
         print(f"  {title:24}{form.format(applet):>10}{form.format(bare):>10}{applet / bare:8.2f}")
 
 
-def main():
-    if len(sys.argv) not in (2, 3) or "DISPLAY" not in os.environ:
-        sys.exit(__doc__)
-    need("xtrace", "xtrace")
-    build = os.path.abspath(sys.argv[1])
-    with tempfile.TemporaryDirectory() as scratch:
-        os.chdir(scratch)
-        with Driver(build):
-            measure(build, int(sys.argv[2]) if len(sys.argv) > 2 else 15)
-        os.chdir("/")
+def measure_with_driver(build, runs):
+    with Driver(build):
+        measure(build, runs)
 
 
-main()
+run_bench(__doc__, 15, measure_with_driver)
