@@ -40,6 +40,14 @@ enum zNotification : unsigned {
   zNtfEditMaxText = 0x501,
   zNtfEditHScroll = 0x601,
   zNtfEditVScroll = 0x602,
+  // Of lists and combo boxes; a tab control sends the first when another tab was selected.
+  zNtfSelChange = 1,
+  zNtfListDoubleClick = 2,
+  zNtfComboSetFocus = 3,
+  zNtfComboKillFocus = 4,
+  zNtfComboEditChange = 5,
+  zNtfComboEditUpdate = 6,
+  zNtfComboDropDown = 7,
 };
 
 struct zEvent {

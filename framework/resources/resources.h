@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 enum zResKind {
@@ -110,6 +111,9 @@ class zResStrBlock : public zUserResource {
 const zDialogTemplate* ziFindDialog(int id);
 const char* ziFindString(int id);
 const char* ziFindStringBlock(int id);
+
+// Makes a program's own dialogs known beside those compiled in. They must live as long as it does.
+void ziAddDialogs(std::span<const zDialogTemplate> dialogs);
 
 // Predefined control classes of the templates.
 enum zControlAtom : std::uint32_t {

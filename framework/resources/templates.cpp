@@ -1,6 +1,8 @@
 // The dialogs of the program, in dialog units. Reading order is tab order.
 #include "framework/resources/resources.h"
 
+#include <vector>
+
 namespace {
 
 constexpr char helv[] = "Helv";
@@ -48,11 +50,22 @@ constexpr zDialogTemplate dialogs[] = {
     {unavailableControls, 584, 0x80C80080, 0, 0, 200, 54, nullptr, helv, points, zNoMenu},
 };
 
+std::vector<std::span<const zDialogTemplate>>& tables() {
+  static std::vector<std::span<const zDialogTemplate>> known{dialogs};
+  return known;
+}
+
 }  // namespace
 
+void ziAddDialogs(std::span<const zDialogTemplate> added) {
+  tables().push_back(added);
+}
+
 const zDialogTemplate* ziFindDialog(int id) {
-  for (const zDialogTemplate& dialog : dialogs) {
-    if (dialog.id == static_cast<std::uint32_t>(id)) return &dialog;
+  for (const auto& table : tables()) {
+    for (const zDialogTemplate& dialog : table) {
+      if (dialog.id == static_cast<std::uint32_t>(id)) return &dialog;
+    }
   }
   return nullptr;
 }
