@@ -54,6 +54,10 @@ class zButton : public zControl {
 
 class zPushButton : public zButton {
  public:
+  zPushButton(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
+      : zButton(parent, sizer, style, title, id) {
+    ziSetType(zTypePushButton);
+  }
   zPushButton(zWindow* parent, int id) : zButton(parent, id) { ziSetType(zTypePushButton); }
 };
 

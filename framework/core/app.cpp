@@ -12,6 +12,7 @@
 
 #include "framework/core/errors.h"
 #include "framework/core/frame_window.h"
+#include "framework/dialogs/control_types.h"
 #include "framework/drawing/color.h"
 #include "framework/drawing/font.h"
 #include "framework/layout/dialog_unit.h"
@@ -68,6 +69,7 @@ zApp::zApp(unsigned argc, char** argv, std::string cmdLine)
   ziClrm = new zColorMap;
   XSetErrorHandler(zAppXlibErrorHandler);
   ziMotifInitialize(0, argc_, argv_);
+  ziInitPanes();
 }
 
 zApp::~zApp() {

@@ -44,7 +44,6 @@ void sizeFromServer(zWindow* window, XEvent* event) {
 }
 
 void mapped(zWindow* window, XEvent* event) {
-  if (window->isA(zTypePane)) XRaiseWindow(event->xmap.display, event->xmap.window);
   window->defineCursor();
   if (window == app->rootWindow()) sizeFromServer(window, event);
 }

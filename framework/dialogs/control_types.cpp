@@ -5,7 +5,9 @@
 
 #include "framework/controls/bitmap_button.h"
 #include "framework/controls/group_box.h"
+#include "framework/controls/pane_controls.h"
 #include "framework/controls/static_text.h"
+#include "framework/controls/tab_control.h"
 #include "framework/core/app.h"
 #include "framework/table/table.h"
 
@@ -36,6 +38,14 @@ constexpr Row packRows[] = {
     {"zTable", build<zTable>},
 };
 
+// By the application object.
+constexpr Row paneRows[] = {
+    {"zTextPane", build<zTextPane>},
+    {"zPaneControl", build<zPaneControl>},
+    {"zBitmapPane", build<zBitmapPane>},
+    {"zTabCtrl", build<zTabCtrl>},
+};
+
 template <std::size_t N>
 void registerRows(const Row (&rows)[N]) {
   static std::list<zControlType> owned;
@@ -57,4 +67,8 @@ const zControlType* zControlType::find(const std::string& name) {
 
 void initIntPack() {
   registerRows(packRows);
+}
+
+void ziInitPanes() {
+  registerRows(paneRows);
 }
