@@ -3,6 +3,7 @@
 #include <X11/keysym.h>
 #include <Xm/Xm.h>
 
+#include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
 #include "framework/core/errors.h"
 #include "framework/core/event_translation.h"
@@ -86,12 +87,16 @@ bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
   return !plain || key.alt() || key.ctrl();
 }
 
-void zControl::keyPressedOrReleased(XEvent* event) {
+void zControl::keyPressedOrReleased(XEvent* event, Boolean* goOn) {
   const bool pressed = event->type == KeyPress;
   zKeyEvt key = ziKeyEvent(this, event, pressed ? zMsgKeyDown : zMsgKeyUp);
   if (!keyReachesHandlers(this, key)) return;
   zWindowWatch watch(this);
   if (doCommandHandler(&key, this) || watch.gone()) return;
+  if (pressed && ziPressMnemonic(this, key)) {
+    *goOn = False;
+    return;
+  }
   if (!pressed || subType_ == subTypeEdit || ziCharactersOf(event).empty()) return;
   key.message = zMsgChar;
   ch(&key);
@@ -125,7 +130,7 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
   switch (event->type) {
     case KeyPress:
     case KeyRelease:
-      control->keyPressedOrReleased(event);
+      control->keyPressedOrReleased(event, goOn);
       break;
     case ButtonPress:
       control->mousePressed(event, goOn);

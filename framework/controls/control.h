@@ -52,7 +52,7 @@ class zControl : public zChildWin {
  private:
   static void CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
   static bool keyReachesHandlers(const zControl* control, const zKeyEvt& key);
-  void keyPressedOrReleased(XEvent* event);
+  void keyPressedOrReleased(XEvent* event, Boolean* goOn);
   void mousePressed(XEvent* event, Boolean* goOn);
   void crossed(XEvent* event);
 
