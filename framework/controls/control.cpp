@@ -27,16 +27,24 @@ zControl::zControl(zWindow* parent, int id) : zChildWin(parent, id), subType_(su
   bury();
 }
 
+// The shadows among them: a disabled label keeps those that it was made with for its text.
 std::vector<Arg> zControl::commonArgs() const {
   const bool tabStop = (styleValue() & zStyleTabStop) != 0;
-  std::vector<Arg> args(7);
-  XtSetArg(args[0], XmNbackground, ziClrm->pixel(backgroundColor()));
+  const unsigned long background = ziClrm->pixel(backgroundColor());
+  Pixel foreground = 0, top = 0, bottom = 0, select = 0;
+  Screen* screen = DefaultScreenOfDisplay(app->display());
+  XmGetColors(screen, DefaultColormapOfScreen(screen), background, &foreground, &top, &bottom,
+              &select);
+  std::vector<Arg> args(9);
+  XtSetArg(args[0], XmNbackground, background);
   XtSetArg(args[1], XmNforeground, ziClrm->pixel(textColor_));
   XtSetArg(args[2], XmNtraversalOn, tabStop);
   XtSetArg(args[3], XmNwidth, std::max(sizer()->width(), 1));
   XtSetArg(args[4], XmNheight, std::max(sizer()->height(), 1));
   XtSetArg(args[5], XmNsensitive, !(styleValue() & zStyleDisabled));
   XtSetArg(args[6], XmNnavigationType, ziNavigation(tabStop));
+  XtSetArg(args[7], XmNtopShadowColor, top);
+  XtSetArg(args[8], XmNbottomShadowColor, bottom);
   return args;
 }
 

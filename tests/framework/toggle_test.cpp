@@ -70,7 +70,9 @@ struct Toggles : zFormDialog {
       checks.push_back(new zCheckBox(this, check, &stored));
     for (int radio = one; radio <= solo; ++radio) radios.push_back(new zRadioButton(this, radio));
     push = new zDefPushButton(this, ok);
-    for (zWindow* kid : kidslist()) static_cast<zChildWin*>(kid)->setCommand(this, &Toggles::hear);
+    for (zWindow* kid : kidslist()) {
+      if (kid->isA(zTypeButton)) static_cast<zButton*>(kid)->setCommand(this, &Toggles::hear);
+    }
   }
   int hear(zNotifyEvt* event) { return heard.push_back(event->cmd()), 0; }
   int client(zNotifyEvt* event) {
@@ -204,6 +206,7 @@ TEST(Buttons, TakeNoColorsFromTheResourceDatabase) {
   form.checks[1]->backgroundColor(zDialogGrey);
   ASSERT_TRUE(x_driver::show(form));
   const zRect all(zPoint{}, form.sizer()->dimension());
+  system("import -window root /tmp/wt/pictures/buttons/hostile.png");
   for (const int pressed : {int{bold}, int{two}, int{ok}, int{cancel}, 43}) {
     x_driver::moveTo(*form.get(pressed), inside);
     x_driver::press();
