@@ -3,6 +3,7 @@
 #include <X11/keysym.h>
 #include <Xm/Xm.h>
 
+#include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
 #include "framework/core/errors.h"
 #include "framework/core/event_translation.h"
@@ -30,16 +31,24 @@ zControl::zControl(ziAdopt, zWindow* parent, int id)
   }
 }
 
+// The shadows among them: a disabled label keeps those that it was made with for its text.
 std::vector<Arg> zControl::commonArgs() const {
   const bool tabStop = (styleValue() & zStyleTabStop) != 0;
-  std::vector<Arg> args(7);
-  XtSetArg(args[0], XmNbackground, ziClrm->pixel(backgroundColor()));
+  const unsigned long background = ziClrm->pixel(backgroundColor());
+  Pixel foreground = 0, top = 0, bottom = 0, select = 0;
+  Screen* screen = DefaultScreenOfDisplay(app->display());
+  XmGetColors(screen, DefaultColormapOfScreen(screen), background, &foreground, &top, &bottom,
+              &select);
+  std::vector<Arg> args(9);
+  XtSetArg(args[0], XmNbackground, background);
   XtSetArg(args[1], XmNforeground, ziClrm->pixel(textColor_));
   XtSetArg(args[2], XmNtraversalOn, tabStop);
   XtSetArg(args[3], XmNwidth, std::max(sizer()->width(), 1));
   XtSetArg(args[4], XmNheight, std::max(sizer()->height(), 1));
   XtSetArg(args[5], XmNsensitive, !(styleValue() & zStyleDisabled));
   XtSetArg(args[6], XmNnavigationType, ziNavigation(tabStop));
+  XtSetArg(args[7], XmNtopShadowColor, top);
+  XtSetArg(args[8], XmNbottomShadowColor, bottom);
   return args;
 }
 
@@ -94,12 +103,16 @@ bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
   return !plain || key.alt() || key.ctrl();
 }
 
-void zControl::keyPressedOrReleased(XEvent* event) {
+void zControl::keyPressedOrReleased(XEvent* event, Boolean* goOn) {
   const bool pressed = event->type == KeyPress;
   zKeyEvt key = ziKeyEvent(this, event, pressed ? zMsgKeyDown : zMsgKeyUp);
   if (!keyReachesHandlers(this, key)) return;
   zWindowWatch watch(this);
   if (doCommandHandler(&key, this) || watch.gone()) return;
+  if (pressed && ziPressMnemonic(this, key)) {
+    *goOn = False;
+    return;
+  }
   if (!pressed || leavesTypingToWidget() || ziCharactersOf(event).empty()) return;
   key.message = zMsgChar;
   ch(&key);
@@ -133,7 +146,7 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
   switch (event->type) {
     case KeyPress:
     case KeyRelease:
-      control->keyPressedOrReleased(event);
+      control->keyPressedOrReleased(event, goOn);
       break;
     case ButtonPress:
       control->mousePressed(event, goOn);

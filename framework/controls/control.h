@@ -57,7 +57,7 @@ class zControl : public zChildWin {
   static void CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
   bool leavesTypingToWidget() const;
   static bool keyReachesHandlers(const zControl* control, const zKeyEvt& key);
-  void keyPressedOrReleased(XEvent* event);
+  void keyPressedOrReleased(XEvent* event, Boolean* goOn);
   void mousePressed(XEvent* event, Boolean* goOn);
   void crossed(XEvent* event);
 

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "framework/controls/button.h"
 #include "framework/core/errors.h"
 #include "framework/core/frame_window.h"
 #include "framework/dialogs/control_types.h"
@@ -79,6 +80,7 @@ zApp::~zApp() {
   ziClrm = nullptr;
   delete zAppFontDict;
   zAppFontDict = nullptr;
+  zButton::resetStaticGroups();
   app = nullptr;
 }
 

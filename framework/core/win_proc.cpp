@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "framework/controls/combo_box.h"
+#include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
 #include "framework/core/event_translation.h"
 #include "framework/core/frame_window.h"
@@ -17,7 +18,7 @@ void keyPressed(zWindow* window, XEvent* event) {
   zKeyEvt key = ziKeyEvent(window, event, zMsgKeyDown);
   const std::string characters = ziCharactersOf(event);
   zWindowWatch watch(window);
-  if (doCommandHandler(&key, window) || watch.gone()) return;
+  if (doCommandHandler(&key, window) || watch.gone() || ziPressMnemonic(window, key)) return;
   if (characters.empty()) return;
   key.parm1 = static_cast<unsigned char>(characters[0]);
   key.message = zMsgChar;

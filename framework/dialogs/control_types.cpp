@@ -4,8 +4,11 @@
 #include <memory>
 
 #include "framework/controls/bitmap_button.h"
+#include "framework/controls/check_box.h"
 #include "framework/controls/group_box.h"
 #include "framework/controls/pane_controls.h"
+#include "framework/controls/panel.h"
+#include "framework/controls/radio_button.h"
 #include "framework/controls/static_text.h"
 #include "framework/controls/tab_control.h"
 #include "framework/core/app.h"
@@ -32,9 +35,12 @@ struct Row {
 
 // By initIntPack, in this order.
 constexpr Row packRows[] = {
+    {"zCheckBox3dClass", build<zCheckBox>},
+    {"zRadioBtn3dClass", build<zRadioButton>},
     {"zStatTxt3dClass", build<zStaticText>},
     {"zGroupBox3dClass", build<zGroupBox>},
     {"zBmpBtnClass", build<zBitmapButton>},
+    {"zPanel3dClass", build<zPanel3d>},
     {"zTable", build<zTable>},
 };
 

@@ -92,6 +92,7 @@ void ziDialogReader::createChildren() {
   const std::unique_ptr<zDisplay> display = makeDisplay();
   display->lock();
   if (font_) display->setFont(font_);
+  firstButton_ = true;
   if (window_->isA(zTypeDialogFrame)) static_cast<zDialogFrame*>(window_)->clearGroupList();
   for (const zControlRecord* r = template_->controls; r->atom || r->className; ++r) {
     const zPoint at = zDialogUnit(r->x, r->y, display.get());
@@ -106,7 +107,9 @@ void ziDialogReader::createButton(const zControlRecord& r, zSizer* place) {
   if ((r.style & classStyleMask) == defaultButtonStyle && defaultId_ == noDefault) defaultId_ = id;
   const unsigned subtype =
       r.atom == zAtomPictureButton ? unsigned{zButton::picture} : r.style & subtypeMask;
-  unsigned long style = r.style;
+  unsigned long style = (r.style & ~(subtypeMask | zButton::picture)) | subtype;
+  if (firstButton_) zButton::resetStaticGroups();
+  firstButton_ = false;
   if (subtype == zButton::radio || subtype == zButton::radioAuto ||
       subtype == zButton::radioAuto2) {
     style |= zStyleTabStop;
