@@ -58,7 +58,7 @@ int zControl::adoptWidget(Widget real, Widget scrolled) {
   setColors(target, backgroundColor());
   link()->control = target;
   link()->kind = subType_;
-  XtInsertEventHandler(target, ziWindowEventMask, False, CtrlProc, link(), XtListHead);
+  listen(target, ziWindowEventMask, CtrlProc, XtListHead);
   return 1;
 }
 
@@ -66,10 +66,6 @@ int zControl::adoptWidget(Widget real, Widget scrolled) {
 void zControl::setColors(Widget widget, const zColor& background) const {
   XmChangeColor(widget, ziClrm->pixel(background));
   XtVaSetValues(widget, XmNforeground, ziClrm->pixel(textColor_), nullptr);
-}
-
-void zControl::addCallback(Widget widget, const char* list, XtCallbackProc procedure) {
-  XtAddCallback(widget, list, procedure, link());
 }
 
 int zControl::notifyParent(zWindow* control, unsigned code, void* callData) {
@@ -140,7 +136,7 @@ void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   }
 }
 
-void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn) {
+void zControl::CtrlProc(Widget, XtPointer link, XEvent* event, Boolean* goOn) {
   auto* control = controlOf<zControl>(link);
   if (!control) return;
   switch (event->type) {
@@ -167,9 +163,6 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
       control->crossed(event);
       break;
     case MapNotify:
-      if (control->isA(zTypeGroupBox)) {
-        XLowerWindow(XtDisplay(widget), XtWindow(XtParent(widget)));
-      }
       control->defineCursor();
       break;
     default:

@@ -40,8 +40,6 @@ class zControl : public zChildWin {
   // Gives a widget of this control a background, the shadows that go with it, and the text colour.
   void setColors(Widget widget, const zColor& background) const;
 
-  // A Motif callback of this control whose client data is the control's ziControlCB.
-  void addCallback(Widget widget, const char* list, XtCallbackProc procedure);
   // Sends a command event with a notification code to the parent.
   static int notifyParent(zWindow* control, unsigned code, void* callData);
   // The control behind a callback's client data, or null.
