@@ -1,0 +1,28 @@
+// Asks a program whether its main loop is alive, without the program's help.
+#pragma once
+
+#include <X11/Xlib.h>
+
+// A shell of the toolkit takes part in the protocol of resource editors: told that an editor wants
+// something, it asks for what that is by converting a selection that the editor owns. The request
+// for the conversion comes out of the program's loop, also out of that of a modal dialog, when
+// everything that the server sent before has been handled. It is refused, and nothing happens.
+class Probe {
+ public:
+  explicit Probe(Display* display);
+
+  // Seconds until `shell` has answered; negative when it does not within `patience` seconds.
+  double answerTime(Window shell, double patience);
+
+ private:
+  void ask(Window shell) const;
+  bool refuseRequest(double deadline) const;
+
+  Display* display_;
+  Window owner_;
+  Atom protocol_;
+  Atom selection_;
+};
+
+// Seconds on a clock that only goes forward.
+double secondsNow();
