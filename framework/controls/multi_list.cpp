@@ -25,19 +25,24 @@ int zMultiList::getSelection(std::vector<std::string>* texts) const {
   std::vector<int> rows;
   getSelection(&rows);
   texts->clear();
-  for (const int row : rows) texts->push_back(text(row));
+  for (const int row : rows) texts->push_back(itemText(row));
   return static_cast<int>(texts->size());
 }
 
 void zMultiList::setSelection(const std::vector<int>& rows) {
   if (!list()) return;
-  std::vector<int> positions;
+  // Under any other policy each row selected would put out the one before.
+  unsigned char policy = XmMULTIPLE_SELECT;
+  XtVaGetValues(list(), XmNselectionPolicy, &policy, nullptr);
+  XtVaSetValues(list(), XmNselectionPolicy, XmMULTIPLE_SELECT, nullptr);
+  setCurrent(-1);
+  XmListDeselectAllItems(list());
   for (const int row : rows) {
-    if (hasItem(row)) positions.push_back(row + 1);
+    if (!hasItem(row) || XmListPosSelected(list(), row + 1)) continue;
+    XmListSelectPos(list(), row + 1, False);
+    setCurrent(row);
   }
-  setCurrent(positions.empty() ? -1 : positions.front() - 1);
-  XtVaSetValues(list(), XmNselectedPositions, positions.data(), XmNselectedPositionCount,
-                static_cast<int>(positions.size()), nullptr);
+  XtVaSetValues(list(), XmNselectionPolicy, policy, nullptr);
 }
 
 void zMultiList::setSelection(const std::vector<std::string>& texts) {
