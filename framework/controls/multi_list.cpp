@@ -2,6 +2,8 @@
 
 #include <Xm/List.h>
 
+#include <algorithm>
+
 zMultiList::zMultiList(zWindow* parent, int id, Store store, unsigned long bindingStyle)
     : zListBoxBase(parent, id, {}, bindingStyle), rows_(store) {
   if (!list() || (styleValue() & zListBoxStyle::multiple)) return;
@@ -46,8 +48,9 @@ void zMultiList::setSelection(const std::vector<int>& rows) {
 }
 
 void zMultiList::setSelection(const std::vector<std::string>& texts) {
-  std::vector<int> rows;
-  for (const std::string& text : texts) rows.push_back(findExact(text));
+  std::vector<int> rows(texts.size());
+  std::transform(texts.begin(), texts.end(), rows.begin(),
+                 [this](const std::string& text) { return findExact(text); });
   setSelection(rows);
 }
 

@@ -72,9 +72,8 @@ TEST_F(ListTest, ItemsKeepTheirOrderAndTheSelectionItsItem) {
     EXPECT_EQ(list->text(none), "");
     EXPECT_EQ(list->selection(none), -1);
   }
-  auto* unsorted = new zListBoxUnsorted(&form, 101);
-  unsorted->add("Aa");
-  EXPECT_EQ(unsorted->text(unsorted->count() - 1), "Aa");
+  list->clear();
+  EXPECT_EQ(list->checkData(), 1);  // nothing there to be selected
 }
 
 TEST_F(ListTest, TellsOnceOfWhatTheUserDoesAndNotOfTheProgram) {
@@ -97,54 +96,23 @@ TEST_F(ListTest, TellsOnceOfWhatTheUserDoesAndNotOfTheProgram) {
   EXPECT_EQ(list->selection(), 0);
   EXPECT_EQ(listener.changes, 3);
   EXPECT_EQ(listener.doubleClicks, 1);
-  list->disable();
-  x_driver::outwaitDoubleClick();
-  x_driver::click(*list, row(2));
-  EXPECT_EQ(list->selection(), 0);
-}
-
-TEST_F(ListTest, BindsAnIndexOrAText) {
-  int index = 2;
-  std::string text = "two";
-  auto* list = new zListBox(&form, 101, &index);
-  EXPECT_EQ(list->checkData(), 1);  // nothing there to be selected
-  list->addCharStrings(rows);
-  EXPECT_EQ(list->checkData(), 0);
-  list->setToDefault();
-  EXPECT_EQ(list->selection(), 2);
-  list->setStoreAddr(&text);
-  list->setToDefault();
-  EXPECT_EQ(list->selection(), 1);
-  EXPECT_EQ(list->checkData(), 1);
-  list->selection("TH");
-  list->storeData();
-  EXPECT_EQ(text, "three");
-  list->setStoreAddr(&index);
-  list->selection(-1);
-  list->storeData();
-  EXPECT_EQ(index, -1);
-  EXPECT_EQ((new zListBox(&form, 101, &index, zListBox::mayStayEmpty))->checkData(), 1);
 }
 
 TEST_F(ListTest, SelectsSeveralRows) {
   std::vector<int> numbers{3, 0, 17};
-  std::vector<std::string> texts{"two", "nobody"};
+  std::vector<std::string> texts;
   for (const int id : {102, 103}) {
     auto* list = new zMultiList(&form, id, &numbers);
     list->setNotifySelChange(&listener, &Listener::changed);
     list->addCharStrings(rows);
     EXPECT_EQ(list->checkData(), 0);
     list->setToDefault();
-    EXPECT_EQ(list->checkData(), 1);
     std::vector<int> chosen{9};
     EXPECT_EQ(list->getSelection(&chosen), 2);
     EXPECT_THAT(chosen, ElementsAre(0, 3));
-    list->setSelection(texts);
-    EXPECT_EQ(list->getSelection(&chosen), 1);
     list->setSelection(std::vector<int>{});
     EXPECT_EQ(list->getSelection(&chosen), 0);
     EXPECT_THAT(chosen, ElementsAre());
-    EXPECT_EQ(list->getSelection(static_cast<std::vector<int>*>(nullptr)), 0);
   }
   auto* list = new zMultiList(&form, 102, &texts);
   ASSERT_TRUE(x_driver::show(form));
@@ -170,7 +138,6 @@ TEST_F(ListTest, AddingIsCheapHowMuchThereIs) {
   const unsigned long before = x_driver::requestsSent();
   list->addStrSlist(std::vector<std::string>(500, "item"));
   EXPECT_LT(x_driver::requestsSent() - before, 100U);
-  std::printf("REQ %lu %lu\n", cost[0], cost[1]);
   EXPECT_EQ(list->selection(1499), 1499);
 }
 
