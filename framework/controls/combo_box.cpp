@@ -68,6 +68,7 @@ int zComboBoxBase::create() {
   addCallback(text, XmNvalueChangedCallback, changedCB);
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
+  addCallback(text, XmNactivateCallback, activateCB);
   createLists(form, text, height);
   return 1;
 }
@@ -87,23 +88,23 @@ Widget zComboBoxBase::createText(Widget form, int height) {
   const auto add = [&args](const char* name, XtArgVal value) {
     args.push_back({const_cast<char*>(name), value});
   };
-  const int line = getFont() ? getFont()->height() : 0;
-  const int margin = (height - line) / 2 - highlight - shadow;
   add(XmNheight, static_cast<XtArgVal>(height));
   add(XmNeditable, typesText());
   add(XmNcursorPositionVisible, typesText());
   add(XmNhighlightThickness, highlight);
   add(XmNshadowThickness, shadow);
   add(XmNmarginWidth, textMargin);
-  add(XmNmarginHeight, static_cast<XtArgVal>(std::max(margin, 0)));
+  add(XmNmarginHeight, 0);
   add(XmNtopAttachment, XmATTACH_FORM);
   add(XmNleftAttachment, XmATTACH_FORM);
   add(XmNbottomAttachment, arrow_ ? XmATTACH_FORM : XmATTACH_NONE);
   add(XmNrightAttachment, arrow_ ? XmATTACH_WIDGET : XmATTACH_FORM);
   if (arrow_) add(XmNrightWidget, reinterpret_cast<XtArgVal>(arrow_));
   if (getFont()) add(XmNfontList, reinterpret_cast<XtArgVal>(getFont()->fontList()));
-  return XtCreateManagedWidget("Text", xmTextWidgetClass, form, args.data(),
-                               static_cast<Cardinal>(args.size()));
+  const Widget text = XtCreateManagedWidget("Text", xmTextWidgetClass, form, args.data(),
+                                            static_cast<Cardinal>(args.size()));
+  centreLine(text, height);
+  return text;
 }
 
 void zComboBoxBase::createLists(Widget form, Widget text, int line) {
@@ -209,7 +210,7 @@ int zComboBoxBase::selection(int index) {
   setCurrent(index);
   marked_ = index;
   showSelected(index);
-  showText(text(index));
+  showText(itemText(index));
   return index;
 }
 
@@ -227,7 +228,7 @@ void zComboBoxBase::showText(const std::string& shown) {
 }
 
 std::string zComboBoxBase::getText() const {
-  if (selection() >= 0) return text(selection());
+  if (selection() >= 0) return itemText(selection());
   return textWidget() ? ziTextOf(textWidget()) : "";
 }
 
@@ -341,7 +342,7 @@ void zComboBoxBase::changedCB(Widget, XtPointer link, XtPointer callData) {
   if (combo->semaphores_ & settingText) return;
   const int before = combo->selection();
   const bool leftItem =
-      before >= 0 && ziTextOf(combo->textWidget()) != ziSafeText(combo->text(before));
+      before >= 0 && ziTextOf(combo->textWidget()) != ziSafeText(combo->itemText(before));
   if (leftItem) {
     combo->setCurrent(-1);
     combo->marked_ = -1;
@@ -354,6 +355,10 @@ void zComboBoxBase::changedCB(Widget, XtPointer link, XtPointer callData) {
 
 void zComboBoxBase::focusCB(Widget, XtPointer link, XtPointer callData) {
   notifyParent(controlOf<zComboBoxBase>(link), zNtfComboSetFocus, callData);
+}
+
+void zComboBoxBase::activateCB(Widget, XtPointer link, XtPointer callData) {
+  controlOf<zComboBoxBase>(link)->pressDefaultButton(callData);
 }
 
 void zComboBoxBase::losingFocusCB(Widget text, XtPointer link, XtPointer callData) {
