@@ -17,14 +17,18 @@ zControl::zControl(zWindow* parent, zSizer* sizer, unsigned long style, const ch
   ziSetType(zTypeControl);
 }
 
-zControl::zControl(zWindow* parent, int id) : zChildWin(parent, id), subType_(subTypeOther) {
+zControl::zControl(zWindow* parent, int id) : zControl(ziAdopt{}, parent, id) {
+  bury();
+}
+
+zControl::zControl(ziAdopt, zWindow* parent, int id)
+    : zChildWin(parent, id), subType_(subTypeOther) {
   ziSetType(zTypeControl);
   if (husk() && husk()->isA(zTypeControl)) {
     const auto* old = static_cast<const zControl*>(husk());
     textColor_ = old->textColor_;
     subType_ = old->subType_;
   }
-  bury();
 }
 
 // The shadows among them: a disabled label keeps those that it was made with for its text.
@@ -88,9 +92,13 @@ void zControl::textColor(const zColor& color) {
   }
 }
 
+bool zControl::leavesTypingToWidget() const {
+  return subType_ == subTypeEdit || isA(zTypeComboBoxFull);
+}
+
 // Where a text widget does the typing, only keys that are no plain characters are offered.
 bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
-  if (control->subType_ != subTypeEdit) return true;
+  if (!control->leavesTypingToWidget()) return true;
   const bool plain = key.code() < XK_BackSpace || key.code() == XK_Multi_key;
   return !plain || key.alt() || key.ctrl();
 }
@@ -105,7 +113,7 @@ void zControl::keyPressedOrReleased(XEvent* event, Boolean* goOn) {
     *goOn = False;
     return;
   }
-  if (!pressed || subType_ == subTypeEdit || ziCharactersOf(event).empty()) return;
+  if (!pressed || leavesTypingToWidget() || ziCharactersOf(event).empty()) return;
   key.message = zMsgChar;
   ch(&key);
 }

@@ -27,6 +27,10 @@ class zControl : public zChildWin {
   int getSubType() const { return subType_; }
 
  protected:
+  // The same for a class whose generic control has state: that takes it from husk() and calls
+  // bury().
+  zControl(ziAdopt, zWindow* parent, int id);
+
   virtual void doText(const char* value);
 
   // Puts the real widget, made in the container, to work: CtrlProc in front of its own handlers,
@@ -51,6 +55,7 @@ class zControl : public zChildWin {
 
  private:
   static void CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
+  bool leavesTypingToWidget() const;
   static bool keyReachesHandlers(const zControl* control, const zKeyEvt& key);
   void keyPressedOrReleased(XEvent* event, Boolean* goOn);
   void mousePressed(XEvent* event, Boolean* goOn);

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "framework/controls/combo_box.h"
 #include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
 #include "framework/core/event_translation.h"
@@ -183,6 +184,10 @@ void ziWinProc(Widget, XtPointer link, XEvent* event, Boolean*) {
 void ConfigTopProc(Widget, XtPointer link, XEvent* event, Boolean*) {
   zWindow* window = static_cast<ziControlCB*>(link)->window;
   if (!window) return;
+  const bool grabbed = event->type == FocusOut && event->xfocus.mode == NotifyGrab;
+  if (event->type == ConfigureNotify || (event->type == FocusOut && !grabbed)) {
+    zComboBoxBase::ziResetPopup();
+  }
   zWindowWatch watch(window);
   if (event->type == FocusIn || event->type == FocusOut) {
     zActivateEvt activation;

@@ -3,8 +3,11 @@
 #include <cstdio>
 
 #include "framework/controls/button.h"
+#include "framework/controls/combo_box.h"
 #include "framework/controls/edit.h"
 #include "framework/controls/group_box.h"
+#include "framework/controls/list_box.h"
+#include "framework/controls/scroll_bar.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
 #include "framework/core/frame_window.h"
@@ -135,6 +138,18 @@ void ziDialogReader::createBaseTypes(const zControlRecord& r, zSizer* place) {
       break;
     case zAtomStatic:
       made = new zStaticText(window_, place, r.style, r.title, id);
+      break;
+    case zAtomListBox:
+      made = new zListBoxBase(window_, place, r.style, r.title, id);
+      made->create();
+      break;
+    case zAtomScrollBar:
+      made = new zScrollBarBase(window_, place, r.style, r.title, id);
+      made->create();
+      break;
+    case zAtomComboBox:
+      made = new zComboBoxBase(window_, place, r.style, r.title, id);
+      made->create();
       break;
     default:
       if (const zControlType* type = r.className ? zControlType::find(r.className) : nullptr) {
