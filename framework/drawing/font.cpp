@@ -1,5 +1,6 @@
 #include "framework/drawing/font.h"
 
+#include <cctype>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
@@ -33,10 +34,55 @@ std::string xName(const zFontSpec& spec, const std::string& tenths) {
   return name;
 }
 
-// The size field of an X font name in tenths of a point, 0 if it has none.
-int sizeField(const char* name) {
-  for (int hyphens = 0; *name && hyphens < 8; ++name) hyphens += *name == '-';
-  return std::atoi(name);
+// Fields of an X font name, each behind that many hyphens.
+enum NameField { familyField = 2, sizeField = 8, resolutionField = 9 };
+
+std::string_view fieldOf(std::string_view name, NameField field) {
+  for (int hyphens = 0; hyphens < field; ++hyphens) {
+    const std::size_t hyphen = name.find('-');
+    if (hyphen == name.npos) return {};
+    name.remove_prefix(hyphen + 1);
+  }
+  return name.substr(0, name.find('-'));
+}
+
+// 0 for a field without a number.
+int numberIn(const char* name, NameField field) {
+  return std::atoi(std::string(fieldOf(name, field)).c_str());
+}
+
+// The face name under which a person knows a family: with capitals.
+std::string faceOf(std::string_view family) {
+  for (const FaceFamily& f : families) {
+    if (family == f.family) return f.face;
+  }
+  std::string face(family);
+  for (std::size_t i = 0; i < face.size(); ++i) {
+    if (i && face[i - 1] != ' ') continue;
+    face[i] = static_cast<char>(std::toupper(static_cast<unsigned char>(face[i])));
+  }
+  return face;
+}
+
+// Outline fonts, which come in any size, have a name without a size and a resolution.
+std::vector<ziFontEntry> listServerFonts() {
+  constexpr int atMost = 2000;
+  constexpr int usualSizes[] = {80, 100, 120, 140, 180, 240};
+  std::vector<ziFontEntry> found;
+  int count = 0;
+  char** names = XListFonts(app->display(), xName(zFontSpec("*", {}), "*").c_str(), atMost, &count);
+  for (int i = 0; i < count; ++i) {
+    const std::string face = faceOf(fieldOf(names[i], familyField));
+    if (face.empty()) continue;
+    const int tenths = numberIn(names[i], sizeField);
+    if (tenths > 0) {
+      found.push_back({face, tenths});
+    } else if (numberIn(names[i], resolutionField) == 0) {
+      for (const int usual : usualSizes) found.push_back({face, usual});
+    }
+  }
+  if (names) XFreeFontNames(names);
+  return found;
 }
 
 // Whether one X font realises both.
@@ -52,7 +98,7 @@ XFontStruct* loadNearest(Display* display, const zFontSpec& spec) {
   const char* best = nullptr;
   int bestDistance = INT_MAX;
   for (int i = 0; i < count; ++i) {
-    const int size = sizeField(names[i]);
+    const int size = numberIn(names[i], sizeField);
     const int distance = std::abs(size - spec.pointSize());
     if (size <= 0 || distance >= bestDistance) continue;
     best = names[i];
@@ -78,8 +124,8 @@ XFontStruct* load(Display* display, const zFontSpec& spec) {
 }  // namespace
 
 zFontSpec::zFontSpec(const char* face, zDimension size, int weight, zFntFam family, zFntPitch pitch,
-                     int styleBits, int escapement, int orientation, unsigned char charSet,
-                     unsigned char outPrecision, unsigned char clipPrecision, unsigned char quality)
+                     int styleBits, int escapement, int orientation, zChSet charSet,
+                     zOutPrec outPrecision, zClipPrec clipPrecision, zOutQual quality)
     : height_(size.height),
       width_(size.width),
       escapement_(escapement),
@@ -118,6 +164,16 @@ const ziRealFont* ziFontDict::find(const zFontSpec& spec) {
   }
   bucket.push_front(std::make_unique<ziRealFont>(spec, load(app->display(), spec)));
   return bucket.front().get();
+}
+
+std::vector<ziFontEntry> ziFontDict::entries() {
+  if (!serverFonts_) serverFonts_ = listServerFonts();
+  std::vector<ziFontEntry> all;
+  for (const auto& bucket : fonts_) {
+    for (const auto& font : bucket) all.push_back({font->spec.faceName(), font->spec.pointSize()});
+  }
+  all.insert(all.end(), serverFonts_->begin(), serverFonts_->end());
+  return all;
 }
 
 const ziRealFont* zFont::real() const {

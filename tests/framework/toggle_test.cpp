@@ -206,7 +206,6 @@ TEST(Buttons, TakeNoColorsFromTheResourceDatabase) {
   form.checks[1]->backgroundColor(zDialogGrey);
   ASSERT_TRUE(x_driver::show(form));
   const zRect all(zPoint{}, form.sizer()->dimension());
-  system("import -window root /tmp/wt/pictures/buttons/hostile.png");
   for (const int pressed : {int{bold}, int{two}, int{ok}, int{cancel}, 43}) {
     x_driver::moveTo(*form.get(pressed), inside);
     x_driver::press();
