@@ -25,12 +25,36 @@ const char* familyOf(const std::string& face) {
   return face.c_str();
 }
 
-// An X font name for the description with `tenths` (or every size, as "*") in its size field.
-std::string xName(const zFontSpec& spec, const std::string& tenths) {
+// What a style is called in X font names: the usual word first.
+struct Style {
+  const char* weight;
+  const char* slant;
+};
+constexpr Style plainStyle{"medium", "r"};
+constexpr Style boldStyles[] = {{"bold", "r"}, {"demibold", "r"}};
+constexpr Style italicStyles[] = {{"medium", "i"}, {"medium", "o"}};
+constexpr Style boldItalicStyles[] = {
+    {"bold", "i"}, {"bold", "o"}, {"demibold", "i"}, {"demibold", "o"}};
+
+// The plain style stands in for one that the face lacks.
+std::vector<Style> stylesOf(const zFontSpec& spec) {
+  std::vector<Style> styles;
+  if (spec.isBold() && spec.isItalic()) {
+    styles.assign(std::begin(boldItalicStyles), std::end(boldItalicStyles));
+  } else if (spec.isBold()) {
+    styles.assign(std::begin(boldStyles), std::end(boldStyles));
+  } else if (spec.isItalic()) {
+    styles.assign(std::begin(italicStyles), std::end(italicStyles));
+  }
+  styles.push_back(plainStyle);
+  return styles;
+}
+
+// An X font name with `tenths` (or every size, as "*") in its size field.
+std::string xName(const std::string& face, const Style& style, const std::string& tenths) {
   char name[256];
   std::snprintf(name, sizeof name, "-*-%.100s-%s-%s-normal-*-*-%s-*-*-*-*-iso8859-1",
-                familyOf(spec.faceName()), spec.isBold() ? "bold" : "medium",
-                spec.isItalic() ? "[io]" : "r", tenths.c_str());
+                familyOf(face), style.weight, style.slant, tenths.c_str());
   return name;
 }
 
@@ -70,7 +94,7 @@ std::vector<ziFontEntry> listServerFonts() {
   constexpr int usualSizes[] = {80, 100, 120, 140, 180, 240};
   std::vector<ziFontEntry> found;
   int count = 0;
-  char** names = XListFonts(app->display(), xName(zFontSpec("*", {}), "*").c_str(), atMost, &count);
+  char** names = XListFonts(app->display(), xName("*", plainStyle, "*").c_str(), atMost, &count);
   for (int i = 0; i < count; ++i) {
     const std::string face = faceOf(fieldOf(names[i], familyField));
     if (face.empty()) continue;
@@ -91,15 +115,15 @@ bool looksAlike(const zFontSpec& a, const zFontSpec& b) {
          a.isItalic() == b.isItalic() && a.faceName() == b.faceName();
 }
 
-// The bitmap font of this family whose size is nearest, or null. Scaled ones are passed over.
-XFontStruct* loadNearest(Display* display, const zFontSpec& spec) {
+// The bitmap font of this name whose size is nearest, or null. Scaled ones are passed over.
+XFontStruct* loadNearest(Display* display, const std::string& ofEverySize, int tenths) {
   int count = 0;
-  char** names = XListFonts(display, xName(spec, "*").c_str(), 1000, &count);
+  char** names = XListFonts(display, ofEverySize.c_str(), 1000, &count);
   const char* best = nullptr;
   int bestDistance = INT_MAX;
   for (int i = 0; i < count; ++i) {
     const int size = numberIn(names[i], sizeField);
-    const int distance = std::abs(size - spec.pointSize());
+    const int distance = std::abs(size - tenths);
     if (size <= 0 || distance >= bestDistance) continue;
     best = names[i];
     bestDistance = distance;
@@ -110,10 +134,15 @@ XFontStruct* loadNearest(Display* display, const zFontSpec& spec) {
 }
 
 XFontStruct* load(Display* display, const zFontSpec& spec) {
-  XFontStruct* font =
-      XLoadQueryFont(display, xName(spec, std::to_string(spec.pointSize())).c_str());
-  if (!font) font = loadNearest(display, spec);
-  if (!font) font = XLoadQueryFont(display, "fixed");
+  const std::string& face = spec.faceName();
+  const int tenths = spec.pointSize();
+  XFontStruct* font = nullptr;
+  for (const Style& style : stylesOf(spec)) {
+    font = XLoadQueryFont(display, xName(face, style, std::to_string(tenths)).c_str());
+    if (!font) font = loadNearest(display, xName(face, style, "*"), tenths);
+    if (font) return font;
+  }
+  font = XLoadQueryFont(display, "fixed");
   if (!font) {
     std::fprintf(stderr, "Error:  the X server has no font, not even \"fixed\".\n");
     std::exit(1);

@@ -93,7 +93,8 @@ struct ziFontEntry {
 class ziFontDict {
  public:
   // Loads the font if it is new. The nearest size of the family stands in for a size that the
-  // server lacks, and `fixed` for a family that it lacks. Never null.
+  // server lacks, the plain style for a bold or italic that the family lacks, and `fixed` for a
+  // family that the server lacks. Never null.
   const ziRealFont* find(const zFontSpec& spec);
 
   // What a person can choose from: the fonts in use, then those of the server, which is asked once.
