@@ -140,7 +140,7 @@ void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   }
 }
 
-void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn) {
+void zControl::CtrlProc(Widget, XtPointer link, XEvent* event, Boolean* goOn) {
   auto* control = controlOf<zControl>(link);
   if (!control) return;
   switch (event->type) {
@@ -167,9 +167,6 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
       control->crossed(event);
       break;
     case MapNotify:
-      if (control->isA(zTypeGroupBox)) {
-        XLowerWindow(XtDisplay(widget), XtWindow(XtParent(widget)));
-      }
       control->defineCursor();
       break;
     default:

@@ -6,15 +6,6 @@
 
 #include "framework/core/x_text.h"
 
-namespace {
-
-// Called after the handler that raises every container.
-void lowerOnMap(Widget container, XtPointer, XEvent* event, Boolean*) {
-  if (event->type == MapNotify) XLowerWindow(XtDisplay(container), XtWindow(container));
-}
-
-}  // namespace
-
 zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zButton(parent, sizer, style, title, id) {
   ziSetType(zTypeGroupBox);
@@ -29,7 +20,6 @@ zGroupBox::zGroupBox(zWindow* parent, int id) : zButton(parent, id) {
 
 void zGroupBox::createFrame() {
   const Widget board = createContainer("Frame");
-  XtAddEventHandler(board, StructureNotifyMask, False, lowerOnMap, nullptr);
   const std::vector<Arg> args = commonArgs();
   const Widget frame =
       XtCreateManagedWidget("Frame", xmFrameWidgetClass, board, const_cast<Arg*>(args.data()),
