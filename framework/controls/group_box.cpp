@@ -5,6 +5,7 @@
 #include <Xm/LabelG.h>
 
 #include "framework/core/x_text.h"
+#include "framework/dialogs/dialog_frame.h"
 
 zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zButton(parent, sizer, style, title, id) {
@@ -13,8 +14,12 @@ zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const 
   createFrame();
 }
 
-zGroupBox::zGroupBox(zWindow* parent, int id) : zButton(parent, id) {
+// `generic` is gone by now and only tells which of the dialog's groups this one is.
+zGroupBox::zGroupBox(zWindow* parent, int id, const zWindow* generic) : zButton(parent, id) {
   ziSetType(zTypeGroupBox);
+  if (generic && parent->isA(zTypeDialogFrame)) {
+    static_cast<zDialogFrame*>(parent)->groupTakenOver(generic, this);
+  }
   if (getWidget()) label_ = XtNameToWidget(getWidget(), "Title");
 }
 

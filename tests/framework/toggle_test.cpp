@@ -120,6 +120,7 @@ TEST(Toggle, CheckBoxesFollowClicksAndTheirVariable) {
 TEST(Toggle, OneRadioButtonOfAGroupIsSet) {
   Toggles form;
   ASSERT_TRUE(x_driver::show(form));
+  EXPECT_EQ(form.getGroupList().front().box, new zGroupBox(&form, box));
   form.get(box)->show(0);  // mapped anew, it stays below what stands in it
   form.get(box)->show(1);
   x_driver::settle();
