@@ -85,12 +85,10 @@ bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
 void zControl::keyPressedOrReleased(XEvent* event) {
   const bool pressed = event->type == KeyPress;
   zKeyEvt key = ziKeyEvent(this, event, pressed ? zMsgKeyDown : zMsgKeyUp);
-  if (!keyReachesHandlers(this, key)) return;
+  if (pressed && !keyReachesHandlers(this, key)) return;
   zWindowWatch watch(this);
   if (doCommandHandler(&key, this) || watch.gone()) return;
-  if (!pressed || subType_ == subTypeEdit || ziCharactersOf(event).empty()) return;
-  key.message = zMsgChar;
-  ch(&key);
+  if (pressed) ziKeyLeft(this, key, subType_ != subTypeEdit);
 }
 
 void zControl::crossed(XEvent* event) {
@@ -107,7 +105,7 @@ void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   click.message = zMsgButtonDown;
   zWindowWatch watch(this);
   ziPreMouseClick(&click);
-  const bool handled = eventMapHas(zMsgButtonDown) && doHandler(&click, this);
+  const bool handled = !watch.gone() && eventMapHas(zMsgButtonDown) && doHandler(&click, this);
   if (handled || watch.gone() || mouseButtonDown(&click)) {
     *goOn = False;
   } else if (click.isButton(1) || click.isButton(2)) {
