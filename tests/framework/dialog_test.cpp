@@ -116,9 +116,13 @@ class EveryForm : public zFormDialog {
     const auto now = action;  // it may delete the form
     return now ? now() : 0;
   }
+  int notes(zEvent* event) { return heard.push_back(event->message), 0; }
+  void childFocusChange(zWindow* from, zWindow* to) override { focusMoves.push_back({from, to}); }
   bool isFinished() const { return finished(); }
 
   std::function<int()> action;
+  std::vector<unsigned> heard;
+  std::vector<std::pair<zWindow*, zWindow*>> focusMoves;
   std::string stored = "before";
   zTableSmallModel model{3, 4};
   zEditLine* edit;
@@ -336,6 +340,81 @@ TEST(Form, IsShownAfterAMomentHiddenAndShownAgain) {
   EXPECT_FALSE(x_driver::waitUntil([&] { return isMapped(ready); }, 500));
 }
 
+TEST(Form, IsCentredButStaysOnTheScreen) {
+  EveryForm below;
+  EveryForm form(&below);
+  const auto leftAndTop = [&](int relative) {
+    form.centerWindow(relative);
+    return form.sizer()->pos();
+  };
+  const int width = form.sizer()->width(), height = form.sizer()->height();
+  const zPoint onScreen{(__scrPixWidth - width) / 2, (__scrPixHeight - height) / 2};
+  EXPECT_EQ(leftAndTop(0), onScreen);
+  below.vmove(200, 100, width + 21, height + 10);
+  EXPECT_EQ(leftAndTop(1), (zPoint{210, 105}));
+  below.vmove(__scrPixWidth - 9, __scrPixHeight - 9, width, height);
+  EXPECT_EQ(leftAndTop(1), (zPoint{__scrPixWidth - width, __scrPixHeight - height}));
+  below.vmove(0, 0, 20, 20);
+  EXPECT_EQ(leftAndTop(1), (zPoint{0, 0}));
+}
+
+// What windows hear of the focus, of the mouse and of keys.
+TEST(Events, FocusIsMovedOnceAndTheAncestorsHearOfIt) {
+  using Clock = std::chrono::steady_clock;
+  EveryForm form;
+  ASSERT_TRUE(x_driver::show(form));
+  ASSERT_TRUE(x_driver::giveFocus(*form.ok));
+  form.focusMoves.clear();
+  form.edit->setFocus();
+  x_driver::waitUntil([] { return false; }, 100);
+  const auto second = Clock::now();
+  form.edit->setFocus();
+  ASSERT_TRUE(x_driver::waitUntil([&] { return x_driver::hasFocus(*form.edit); }));
+  EXPECT_GE(Clock::now() - second, std::chrono::milliseconds(149));
+  ASSERT_EQ(form.focusMoves.size(), 1U);
+  EXPECT_EQ(form.focusMoves[0].first, form.ok);
+  EXPECT_EQ(form.focusMoves[0].second, form.edit);
+}
+
+TEST(Events, ReachHandlersOnlyWhereTheyBelong) {
+  using Messages = std::vector<unsigned>;
+  EveryForm form;
+  auto* label = static_cast<zChildWin*>(form.get(100));
+  const auto heard = [&] { return std::exchange(form.heard, {}); };
+  ASSERT_TRUE(x_driver::show(form));
+  for (const auto message : {zMsgButtonDown, zMsgDoubleClick}) {
+    form.table->setupNotification(&form, &EveryForm::notes, message);
+    label->setupNotification(&form, &EveryForm::notes, message);
+  }
+  label->setHandler(&form, &EveryForm::notes, zMsgMouseMove);  // nobody has asked for moves
+  x_driver::doubleClick(*form.table, {20, 40});
+  EXPECT_EQ(heard(), (Messages{zMsgButtonDown, zMsgDoubleClick}));
+  x_driver::doubleClick(*label, {5, 5});
+  EXPECT_EQ(heard(), (Messages{zMsgButtonDown, zMsgButtonDown}));
+  for (const auto message : {zMsgKeyDown, zMsgKeyUp}) {
+    form.edit->setHandler(&form, &EveryForm::notes, message);
+  }
+  ASSERT_TRUE(x_driver::giveFocus(*form.edit));
+  x_driver::key(XK_a);  // goes into the text
+  EXPECT_EQ(heard(), (Messages{zMsgKeyUp}));
+  x_driver::key(XK_F5);
+  EXPECT_EQ(heard(), (Messages{zMsgKeyDown, zMsgKeyUp}));
+}
+
+TEST(Events, AWindowOutOfSightIsDeletedWhenItIsMarkedSo) {
+  EveryForm form;
+  auto* pane = new zPane(&form, nullptr, 0, nullptr, 70);
+  pane->create();
+  pane->show(1);
+  EXPECT_EQ(pane->sizer()->dimension(), (zDimension{10, 10}));  // nobody gave it one
+  ASSERT_TRUE(x_driver::show(form));
+  const zWindowWatch watch(pane);
+  pane->deleteOnClose(1);
+  pane->show(0);
+  XUnmapWindow(app->display(), XtWindow(pane->getWidget()));
+  EXPECT_TRUE(x_driver::waitUntil([&] { return watch.gone(); }));
+}
+
 TEST(Form, TakesTheDialogsOverItAlong) {
   auto below = std::make_unique<TestForm>();
   below->show(1);
@@ -347,6 +426,29 @@ TEST(Form, TakesTheDialogsOverItAlong) {
   below.reset();
   EXPECT_TRUE(watch.gone());
   x_driver::settle();
+}
+
+// A timer whose handler opens a message box, during which it is deleted.
+struct Interrupted : zEvH {
+  void tick() {
+    if (++ticks != 5) return;
+    Later deletes(50, [this] { timer.reset(); });
+    Later answers(400, [] { x_driver::key(XK_Return); });
+    answer = zMessage(app->rootWindow(), "text", "caption", 0x30).result();
+  }
+  int ticks = 0;
+  int answer = 0;
+  std::unique_ptr<zTimer> timer = std::make_unique<zTimer>(this, &Interrupted::tick, 5);
+};
+
+TEST(Modal, TimersFireBehindItAndMayGoWhileTheirHandlerRuns) {
+  TestForm form;
+  Interrupted interrupted;
+  Later ends(700, [&] { form.shutdown(); });
+  form.modal();
+  EXPECT_GE(interrupted.ticks, 5);
+  EXPECT_EQ(interrupted.answer, 1);
+  EXPECT_EQ(interrupted.timer, nullptr);
 }
 
 TEST(Modal, LoopsNestAndTimersRunOnTopOfThem) {
