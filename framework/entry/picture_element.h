@@ -26,6 +26,8 @@ class zPictStrEl {
   virtual void delChar() {}
   // The character that the place holds, 0 when it is empty.
   virtual char current() const = 0;
+  // The character that stands for an empty place, 0 for a literal.
+  virtual char fill() const { return 0; }
   virtual std::unique_ptr<zPictStrEl> clone() const = 0;
 
   bool isLiteral() const { return (flags_ & literal) != 0; }
@@ -60,11 +62,11 @@ class ziPictStrPlace : public zPictStrEl {
   bool addChar(char c, int checkOnly, unsigned long style) override;
   void delChar() override { current_ = 0; }
   char current() const override { return current_; }
+  char fill() const override { return fill_; }
 
  protected:
   virtual bool isInClass(char c) const = 0;
   virtual char stored(char c, unsigned long style) const;
-  char fill() const { return fill_; }
 
  private:
   bool accepts(char c, unsigned long style) const;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "framework/entry/formatter.h"
@@ -29,24 +30,39 @@ class zPictFormatter : public zFormatter {
   bool isLiteral(char c) const;
 
  private:
-  // Lays `length` characters over the elements from `startElement` on; 1, or 0 when one of them
-  // fits nowhere. With `record` the map says afterwards where each went, to the first that did not.
-  int mapStrToPict(const char* text, int length, int startElement, bool record, int& lastUsed);
+  // Lays `text` over the elements from `startElement` on, its literals there or not; 1, or 0 when
+  // a character fits nowhere. With `record` the map says where each went, as far as they fit.
+  int mapStrToPict(std::string_view text, int startElement, bool record, int& lastUsed);
   void mapPictToStr(std::string& text, unsigned long style) const;
-  bool shiftRight(int element, char displaced);
-  void shiftLeft(int element);
+  // Where the element stands in the text; -1 is behind the last one.
   int findStringPosition(int element) const;
+  // Moves on what follows the place, where `displaced` stood. False when a character was lost.
+  bool shiftRight(int element, char displaced);
+  // Empties the place and closes it with what follows.
+  void shiftLeft(int element);
 
   bool load(const std::string& text);
-  bool layShownText(const std::string& text);
+  bool layShownText(std::string_view text);
+  void occupy(int element, char c, bool record);
   int literalFor(char c, int startElement) const;
+  bool accepts(int element, char c) const;
+  bool canHold(int element, char c) const;
   bool put(int element, char c);
-  bool holdsBack(int element, int next) const;
+  bool keepsOut(int element, int next) const;
+
   int addString(std::string& text, const char* chars, int count, zRange& sel);
   int addOne(std::string& text, char c, int count, zRange& sel);
+  int insert(char c, int element, std::string& text, zRange& sel);
   int elementAtCaret(int caret) const;
-  int elements() const { return static_cast<int>(elements_.size()); }
-  bool at(int element, char c) const;
+  int removeAt(int caret, int count, std::string& text, zRange& sel);
+  int removeRange(const zRange& range);
+  void show(int element, std::string& text, zRange& sel) const;
+
+  int size() const { return static_cast<int>(elements_.size()); }
+  bool isWritable(int element) const { return elements_[index(element)]->isWritable(); }
+  char current(int element) const { return elements_[index(element)]->current(); }
+  unsigned long shownStyle() const { return style() & ~static_cast<unsigned long>(rawValue); }
+  static std::size_t index(int i) { return static_cast<std::size_t>(i); }
 
   zPicture elements_;
   std::vector<int> literals_;
