@@ -10,6 +10,13 @@ namespace {
 
 constexpr int textMarginWidth = 3;
 
+// A scroll bar tells of each move by the first of these that anybody listens to, and the text
+// widget listens to all.
+const char* const scrollMoves[] = {
+    XmNvalueChangedCallback,  XmNdragCallback,          XmNincrementCallback, XmNdecrementCallback,
+    XmNpageIncrementCallback, XmNpageDecrementCallback, XmNtoTopCallback,     XmNtoBottomCallback,
+};
+
 // In a field of several lines that leaves Return to the dialog.
 XtTranslations returnActivates() {
   static const XtTranslations parsed = XtParseTranslationTable(
@@ -54,7 +61,7 @@ std::vector<Arg> zEditBase::textArgs() const {
   };
   add(XmNeditMode, multiLine ? XmMULTI_LINE_EDIT : XmSINGLE_LINE_EDIT);
   add(XmNeditable, !readOnly);
-  add(XmNcursorPositionVisible, !readOnly);
+  add(XmNcursorPositionVisible, !readOnly && !(styleValue() & zStyleDisabled));
   add(XmNverifyBell, False);
   add(XmNmarginHeight, 0);
   add(XmNmarginWidth, textMarginWidth);
@@ -97,8 +104,7 @@ Widget zEditBase::createBox(Widget board, std::vector<Arg> args) {
   for (int i = 0; i < 2; ++i) {
     if (!bars[i]) continue;
     setColors(bars[i], backgroundColor());
-    addCallback(bars[i], XmNvalueChangedCallback, tells[i]);
-    addCallback(bars[i], XmNdragCallback, tells[i]);
+    for (const char* move : scrollMoves) addCallback(bars[i], move, tells[i]);
   }
   if (!(styleValue() & zEditStyle::wantReturn)) XtOverrideTranslations(text, returnActivates());
   adoptWidget(scrolled, text);
@@ -175,6 +181,21 @@ void zEditBase::showEdited(const std::string& text, const zRange& selected) {
 
 void zEditBase::limitText(int length) {
   if (textWidget()) XmTextSetMaxLength(textWidget(), length ? length : maxTextWhenUnlimited);
+}
+
+int zEditBase::enable() {
+  showCaret(true);
+  return zControl::enable();
+}
+
+int zEditBase::disable() {
+  showCaret(false);
+  return zControl::disable();
+}
+
+void zEditBase::showCaret(bool enabled) const {
+  const bool visible = enabled && !(styleValue() & zEditStyle::readOnly);
+  if (textWidget()) XtVaSetValues(textWidget(), XmNcursorPositionVisible, visible, nullptr);
 }
 
 void zEditBase::editBackgroundColor(const zColor& color) {

@@ -41,6 +41,9 @@ class zEditBase : public zControl {
   void setToDefault() override;
   int checkData() override;
   int storeData() override;
+  // A disabled field shows no caret.
+  int enable() override;
+  int disable() override;
 
   std::string getText() const override;
   bool hasChanged() const { return changed_; }
@@ -157,6 +160,7 @@ class zEditBase : public zControl {
   Widget createLine(Widget board, std::vector<Arg> args);
   Widget createBox(Widget board, std::vector<Arg> args);
   void centreLine(Widget text) const;
+  void showCaret(bool enabled) const;
   void setText(const std::string& value, Semaphore why);
 
   static void modifyCB(Widget widget, XtPointer link, XtPointer callData);
@@ -164,6 +168,7 @@ class zEditBase : public zControl {
   static void focusCB(Widget widget, XtPointer link, XtPointer callData);
   static void losingFocusCB(Widget widget, XtPointer link, XtPointer callData);
   static void activateCB(Widget widget, XtPointer link, XtPointer callData);
+  static void tellScrolled(XtPointer link, unsigned code, XtPointer callData);
   static void horzScrollCB(Widget widget, XtPointer link, XtPointer callData);
   static void vertScrollCB(Widget widget, XtPointer link, XtPointer callData);
 

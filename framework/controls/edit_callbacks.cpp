@@ -205,12 +205,17 @@ void zEditBase::losingFocusCB(Widget, XtPointer link, XtPointer callData) {
   notifyParent(controlOf<zEditBase>(link), zNtfEditKillFocus, callData);
 }
 
+void zEditBase::tellScrolled(XtPointer link, unsigned code, XtPointer callData) {
+  auto* edit = controlOf<zEditBase>(link);
+  if (!(edit->semaphores_ & (settingText | formatting))) notifyParent(edit, code, callData);
+}
+
 void zEditBase::horzScrollCB(Widget, XtPointer link, XtPointer callData) {
-  notifyParent(controlOf<zEditBase>(link), zNtfEditHScroll, callData);
+  tellScrolled(link, zNtfEditHScroll, callData);
 }
 
 void zEditBase::vertScrollCB(Widget, XtPointer link, XtPointer callData) {
-  notifyParent(controlOf<zEditBase>(link), zNtfEditVScroll, callData);
+  tellScrolled(link, zNtfEditVScroll, callData);
 }
 
 void zEditBase::pressDefaultButton(void* callData) {
