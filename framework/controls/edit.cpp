@@ -103,7 +103,7 @@ Widget zEditBase::createBox(Widget board, std::vector<Arg> args) {
   const XtCallbackProc tells[] = {horzScrollCB, vertScrollCB};
   for (int i = 0; i < 2; ++i) {
     if (!bars[i]) continue;
-    setColors(bars[i], backgroundColor());
+    XmChangeColor(bars[i], ziClrm->pixel(backgroundColor()));
     for (const char* move : scrollMoves) addCallback(bars[i], move, tells[i]);
   }
   if (!(styleValue() & zEditStyle::wantReturn)) XtOverrideTranslations(text, returnActivates());
@@ -190,6 +190,9 @@ int zEditBase::enable() {
 
 int zEditBase::disable() {
   showCaret(false);
+  if (textWidget()) {
+    XmTextClearSelection(textWidget(), XtLastTimestampProcessed(app->display()));
+  }
   return zControl::disable();
 }
 

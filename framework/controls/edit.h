@@ -41,7 +41,7 @@ class zEditBase : public zControl {
   void setToDefault() override;
   int checkData() override;
   int storeData() override;
-  // A disabled field shows no caret.
+  // A disabled field shows no caret and no selection.
   int enable() override;
   int disable() override;
 

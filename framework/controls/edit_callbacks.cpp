@@ -160,7 +160,7 @@ bool zEditBase::modify(XmTextVerifyCallbackStruct& verify) {
   cleanInserted(verify);
   if (offered.start == offered.end && insertedText(verify).empty()) return false;
   const bool accepted = offer(verify);
-  if (watch.gone() || (!accepted && !edited_)) return false;
+  if (watch.gone() || verify_ != &verify || (!accepted && !edited_)) return false;
   if (edited_ && !replaceByEdited(verify, before)) return false;
   notifyParent(this, zNtfEditUpdate, &verify);
   if (watch.gone() || verify_ != &verify) return false;

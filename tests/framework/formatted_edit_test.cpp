@@ -122,6 +122,36 @@ TEST(FormattedEdit, PutsTheCaretOnTheFirstBadCharacter) {
   ASSERT_TRUE(x_driver::waitUntil([&] { return form.isFinished(); }));
 }
 
+TEST(NumberEdits, ShowTypeAndStoreNumbers) {
+  Form form;
+  int number = -12;
+  unsigned long large = 4294967295UL;
+  zIntEdit field(&form, firstId, &number);
+  zUnsignedLongEdit second(&form, secondId, &large);
+  EXPECT_EQ(field.getText(), "-12");
+  EXPECT_EQ(second.getText(), "4294967295");
+  second.storeData();
+  EXPECT_EQ(large, 2147483647UL);
+  ASSERT_TRUE(form.start(field));
+  x_driver::key(XK_End);
+  play(form, field,
+       {{'3', alone, "-123|"},
+        {'x', alone, "-123|", ""},
+        {XK_BackSpace, alone, "-12|"},
+        {XK_BackSpace, alone, "-1|"}});
+  field.storeData();
+  EXPECT_EQ(number, -1);
+  number = 7;
+  field.setToDefault();
+  EXPECT_EQ(field.getRawText(0), "+7");
+  unsigned count = 40;
+  auto* four = new zUnsignedIntEdit(&form, edit_form::boxId, &count, "####", 0);
+  EXPECT_EQ(four->getText(), "40");
+  auto* positive = new zIntEdit(&form, edit_form::boxId, &number, "##", 0);
+  EXPECT_EQ(positive->getText(), "7");
+  EXPECT_EQ(form.heard, "uc");
+}
+
 TEST(FormattedEdit, WithoutAFormatterIsAFieldOfOneLine) {
   Form form;
   zFormattedEdit field(&form, firstId, nullptr, 0);
