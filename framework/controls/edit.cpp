@@ -225,13 +225,19 @@ zRange zEditBase::widgetSelection() const {
   return {caret, caret};
 }
 
+// An empty range must not go to the widget as a selection: it would take the primary selection from
+// whoever has it.
 void zEditBase::selection(int start, int end) {
   const Widget text = textWidget();
   if (!text) return;
+  const Time time = XtLastTimestampProcessed(app->display());
   if (XtIsRealized(text)) {
-    const XmTextPosition last = XmTextGetLastPosition(text);
-    XmTextSetSelection(text, start, std::min<XmTextPosition>(end, last),
-                       XtLastTimestampProcessed(app->display()));
+    const int last = std::min(end, static_cast<int>(XmTextGetLastPosition(text)));
+    if (start < last) {
+      XmTextSetSelection(text, start, last, time);
+    } else {
+      XmTextClearSelection(text, time);
+    }
   }
   XmTextSetInsertionPosition(text, end);
 }

@@ -93,17 +93,14 @@ TEST(Edit, UndoesOneChangeAndRedoesIt) {
 }
 
 TEST(Edit, StylesShapeWhatIsTyped) {
-  struct Case {
-    unsigned long style;
-    const char* result;
-  };
-  for (const Case& c : {Case{zEditStyle::upperCase, "ABC"}, Case{zEditStyle::lowerCase, "abc"},
-                        Case{zEditStyle::readOnly, ""}}) {
-    Form form(static_cast<std::uint32_t>(c.style));
+  const std::pair<unsigned long, const char*> cases[] = {
+      {zEditStyle::upperCase, "ABC"}, {zEditStyle::lowerCase, "abc"}, {zEditStyle::readOnly, ""}};
+  for (const auto& [style, result] : cases) {
+    Form form(static_cast<std::uint32_t>(style));
     zEditLine field(&form, firstId);
     ASSERT_TRUE(form.start(field));
     x_driver::text("aBc");
-    EXPECT_EQ(field.getText(), c.result);
+    EXPECT_EQ(field.getText(), result);
   }
 }
 
