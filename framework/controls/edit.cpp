@@ -3,16 +3,43 @@
 #include <Xm/RowColumn.h>
 #include <Xm/Text.h>
 
-#include <cctype>
-
 #include "framework/core/app.h"
 #include "framework/core/x_text.h"
 
 namespace {
 
-constexpr char backspace = 8;
+constexpr int textMarginWidth = 3;
+
+// A scroll bar tells of each move by the first of these that anybody listens to, and the text
+// widget listens to all.
+const char* const scrollMoves[] = {
+    XmNvalueChangedCallback,  XmNdragCallback,          XmNincrementCallback, XmNdecrementCallback,
+    XmNpageIncrementCallback, XmNpageDecrementCallback, XmNtoTopCallback,     XmNtoBottomCallback,
+};
+
+// In a field of several lines that leaves Return to the dialog.
+XtTranslations returnActivates() {
+  static const XtTranslations parsed = XtParseTranslationTable(
+      "<Key>Return: activate()\n<Key>KP_Enter: activate()\n<Key>osfActivate: activate()");
+  return parsed;
+}
 
 }  // namespace
+
+// Raises a semaphore for as long as it lives. The field must outlive it.
+class zEditBase::Hold {
+ public:
+  Hold(zEditBase& edit, Semaphore semaphore) : edit_(edit), before_(edit.semaphores_) {
+    edit.semaphores_ |= semaphore;
+  }
+  ~Hold() { edit_.semaphores_ = before_; }
+  Hold(const Hold&) = delete;
+  Hold& operator=(const Hold&) = delete;
+
+ private:
+  zEditBase& edit_;
+  unsigned before_;
+};
 
 zEditBase::zEditBase(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zControl(parent, sizer, style, title, id, subTypeEdit) {
@@ -25,32 +52,71 @@ zEditBase::zEditBase(zWindow* parent, int id, std::string* store, unsigned long 
   ziSetType(zTypeEditBase);
 }
 
-void zEditBase::createText() {
-  const Widget board = createContainer("TextField");
-  const unsigned long style = styleValue();
-  const bool multiLine = (style & zEditStyle::multiLine) != 0;
-  const bool readOnly = (style & zEditStyle::readOnly) != 0;
-  const Widget row = XtVaCreateManagedWidget(
-      "RowColumn", xmRowColumnWidgetClass, board, XmNmarginWidth, 0, XmNmarginHeight, 0, XmNspacing,
-      0, XmNresizeWidth, False, XmNresizeHeight, False, XmNadjustLast, True, XmNwidth,
-      std::max(sizer()->width(), 1), XmNheight, std::max(sizer()->height(), 1), XmNbackground,
-      ziClrm->pixel(backgroundColor()), nullptr);
+std::vector<Arg> zEditBase::textArgs() const {
+  const bool multiLine = (styleValue() & zEditStyle::multiLine) != 0;
+  const bool readOnly = (styleValue() & zEditStyle::readOnly) != 0;
   std::vector<Arg> args = commonArgs();
   const auto add = [&args](const char* name, XtArgVal value) {
     args.push_back({const_cast<char*>(name), value});
   };
   add(XmNeditMode, multiLine ? XmMULTI_LINE_EDIT : XmSINGLE_LINE_EDIT);
   add(XmNeditable, !readOnly);
-  add(XmNcursorPositionVisible, !readOnly);
+  add(XmNcursorPositionVisible, !readOnly && !(styleValue() & zStyleDisabled));
+  add(XmNverifyBell, False);
   add(XmNmarginHeight, 0);
-  add(XmNmarginWidth, 3);
+  add(XmNmarginWidth, textMarginWidth);
   if (getFont()) add(XmNfontList, reinterpret_cast<XtArgVal>(getFont()->fontList()));
+  return args;
+}
+
+Widget zEditBase::createLine(Widget board, std::vector<Arg> args) {
+  const Widget row = XtVaCreateManagedWidget(
+      "RowColumn", xmRowColumnWidgetClass, board, XmNmarginWidth, 0, XmNmarginHeight, 0, XmNspacing,
+      0, XmNresizeWidth, False, XmNresizeHeight, False, XmNadjustLast, True, XmNwidth,
+      std::max(sizer()->width(), 1), XmNheight, std::max(sizer()->height(), 1), XmNbackground,
+      ziClrm->pixel(backgroundColor()), nullptr);
   const Widget text = XtCreateManagedWidget("TextField", xmTextWidgetClass, row, args.data(),
                                             static_cast<Cardinal>(args.size()));
-  if (!multiLine) centreLine(text, sizer()->height());
-  ziSetText(text, title());
+  centreLine(text, sizer()->height());
   adoptWidget(row, text);
-  if (!readOnly) setColors(text, zWhite);
+  return text;
+}
+
+Widget zEditBase::createBox(Widget board, std::vector<Arg> args) {
+  const bool across = (styleValue() & zEditStyle::horzScroll) != 0;
+  const bool down = (styleValue() & zEditStyle::vertScroll) != 0;
+  for (const Arg& arg : {Arg{const_cast<char*>(XmNscrollHorizontal), across},
+                         Arg{const_cast<char*>(XmNscrollVertical), down},
+                         Arg{const_cast<char*>(XmNwordWrap), !across}}) {
+    args.push_back(arg);
+  }
+  const Widget text = XmCreateScrolledText(board, const_cast<char*>("TextField"), args.data(),
+                                           static_cast<Cardinal>(args.size()));
+  const Widget scrolled = XtParent(text);
+  XtVaSetValues(scrolled, XmNwidth, std::max(sizer()->width(), 1), XmNheight,
+                std::max(sizer()->height(), 1), nullptr);
+  XtManageChild(text);
+  setColors(scrolled, backgroundColor());
+  Widget bars[2] = {};
+  XtVaGetValues(scrolled, XmNhorizontalScrollBar, &bars[0], XmNverticalScrollBar, &bars[1],
+                nullptr);
+  const XtCallbackProc tells[] = {horzScrollCB, vertScrollCB};
+  for (int i = 0; i < 2; ++i) {
+    if (!bars[i]) continue;
+    XmChangeColor(bars[i], ziClrm->pixel(backgroundColor()));
+    for (const char* move : scrollMoves) addCallback(bars[i], move, tells[i]);
+  }
+  if (!(styleValue() & zEditStyle::wantReturn)) XtOverrideTranslations(text, returnActivates());
+  adoptWidget(scrolled, text);
+  return text;
+}
+
+void zEditBase::createText() {
+  const Widget board = createContainer("TextField");
+  const bool multiLine = (styleValue() & zEditStyle::multiLine) != 0;
+  const Widget text = multiLine ? createBox(board, textArgs()) : createLine(board, textArgs());
+  ziSetText(text, title());
+  if (!(styleValue() & zEditStyle::readOnly)) setColors(text, zWhite);
   addCallback(text, XmNmodifyVerifyCallback, modifyCB);
   addCallback(text, XmNvalueChangedCallback, changedCB);
   addCallback(text, XmNfocusCallback, focusCB);
@@ -65,7 +131,7 @@ void zEditBase::setToDefault() {
 }
 
 int zEditBase::checkData() {
-  return bindingAllowsEmpty() || !getText().empty();
+  return (bindingStyle_ & mayStayEmpty) || !getText().empty();
 }
 
 int zEditBase::storeData() {
@@ -78,20 +144,53 @@ std::string zEditBase::getText() const {
 }
 
 void zEditBase::doText(const char* value) {
+  setText(value, settingText);
+}
+
+// A handler may set a text while a change is offered: that change is void then.
+void zEditBase::setText(const std::string& value, Semaphore why) {
+  verify_ = nullptr;
+  undo_.empty();
   const Widget text = textWidget();
   if (!text) return;
-  semaphores_ |= settingText;
+  const Hold hold(*this, why);
   if (XtIsManaged(text)) {
     ziSetText(text, value);
     XmTextSetInsertionPosition(text, XmTextGetLastPosition(text));
   } else {
     XtVaSetValues(text, XmNvalue, ziSafeText(value).c_str(), nullptr);
   }
-  semaphores_ &= ~static_cast<unsigned>(settingText);
+}
+
+void zEditBase::showEdited(const std::string& text, const zRange& selected) {
+  if (verify_) {
+    edited_ = {text, selected};
+  } else {
+    setText(text, formatting);
+    selection(selected.start, selected.end);
+  }
 }
 
 void zEditBase::limitText(int length) {
   if (textWidget()) XmTextSetMaxLength(textWidget(), length ? length : maxTextWhenUnlimited);
+}
+
+int zEditBase::enable() {
+  showCaret(true);
+  return zControl::enable();
+}
+
+int zEditBase::disable() {
+  showCaret(false);
+  if (textWidget()) {
+    XmTextClearSelection(textWidget(), XtLastTimestampProcessed(app->display()));
+  }
+  return zControl::disable();
+}
+
+void zEditBase::showCaret(bool enabled) const {
+  const bool visible = enabled && !(styleValue() & zEditStyle::readOnly);
+  if (textWidget()) XtVaSetValues(textWidget(), XmNcursorPositionVisible, visible, nullptr);
 }
 
 void zEditBase::editBackgroundColor(const zColor& color) {
@@ -101,13 +200,14 @@ void zEditBase::editBackgroundColor(const zColor& color) {
 // Selection and clipboard.
 
 zRange zEditBase::selection() const {
-  if (verify_) {
-    const auto* verify = static_cast<const XmTextVerifyCallbackStruct*>(verify_);
-    int start = static_cast<int>(std::min(verify->startPos, verify->endPos));
-    const int end = static_cast<int>(std::max(verify->startPos, verify->endPos));
-    if (end - start == 1) start = end;
-    return {start, end};
-  }
+  if (!verify_) return widgetSelection();
+  int start = static_cast<int>(std::min(verify_->startPos, verify_->endPos));
+  const int end = static_cast<int>(std::max(verify_->startPos, verify_->endPos));
+  if (end - start == 1) start = end;
+  return {start, end};
+}
+
+zRange zEditBase::widgetSelection() const {
   if (!textWidget()) return {};
   XmTextPosition left = 0, right = 0;
   if (XmTextGetSelectionPosition(textWidget(), &left, &right) && left != right) {
@@ -117,13 +217,19 @@ zRange zEditBase::selection() const {
   return {caret, caret};
 }
 
+// An empty range must not go to the widget as a selection: it would take the primary selection from
+// whoever has it.
 void zEditBase::selection(int start, int end) {
   const Widget text = textWidget();
   if (!text) return;
+  const Time time = XtLastTimestampProcessed(app->display());
   if (XtIsRealized(text)) {
-    const XmTextPosition last = XmTextGetLastPosition(text);
-    XmTextSetSelection(text, start, std::min<XmTextPosition>(end, last),
-                       XtLastTimestampProcessed(app->display()));
+    const int last = std::min(end, static_cast<int>(XmTextGetLastPosition(text)));
+    if (start < last) {
+      XmTextSetSelection(text, start, last, time);
+    } else {
+      XmTextClearSelection(text, time);
+    }
   }
   XmTextSetInsertionPosition(text, end);
 }
@@ -153,75 +259,19 @@ int zEditBase::paste() {
   return textWidget() && XmTextPaste(textWidget());
 }
 
-// Callbacks.
+// Undo.
 
-int zEditBase::pasteStr(const char*) {
-  return 0;
-}
-
-void zEditBase::applyCase(char* text, int length) const {
-  const unsigned long style = styleValue();
-  for (int i = 0; i < length; ++i) {
-    const auto c = static_cast<unsigned char>(text[i]);
-    if (style & zEditStyle::upperCase) text[i] = static_cast<char>(std::toupper(c));
-    if (style & zEditStyle::lowerCase) text[i] = static_cast<char>(std::tolower(c));
-  }
-}
-
-bool zEditBase::offerTyped(void* data) {
-  auto* verify = static_cast<XmTextVerifyCallbackStruct*>(data);
-  const bool deletion = !verify->text || !verify->text->ptr || verify->text->length == 0;
-  if (!deletion && verify->text->length > 1) return pasteStr(verify->text->ptr) == 0;
-  zKeyEvt key;
-  key.xEvent = verify->event;
-  key.message = zMsgChar;
-  key.window = this;
-  if (!deletion) applyCase(verify->text->ptr, 1);
-  const char typed = deletion ? backspace : verify->text->ptr[0];
-  key.parm1 = static_cast<unsigned char>(typed);
-  if (ch(&key)) return false;
-  if (!deletion) verify->text->ptr[0] = static_cast<char>(key.parm1);
-  return true;
-}
-
-void zEditBase::modifyCB(Widget, XtPointer link, XtPointer callData) {
-  auto* edit = controlOf<zEditBase>(link);
-  auto* verify = static_cast<XmTextVerifyCallbackStruct*>(callData);
-  if (edit->semaphores_ & (settingText | modifying)) return;
-  edit->semaphores_ |= modifying;
-  edit->verify_ = callData;
-  if (verify->event && !edit->offerTyped(callData)) verify->doit = False;
-  if (verify->doit) {
-    notifyParent(edit, zNtfEditUpdate, callData);
-    if (verify->text && verify->text->ptr) {
-      edit->applyCase(verify->text->ptr, verify->text->length);
-    }
-  }
-  edit->verify_ = nullptr;
-  edit->semaphores_ &= ~static_cast<unsigned>(modifying);
-}
-
-void zEditBase::changedCB(Widget widget, XtPointer link, XtPointer callData) {
-  auto* edit = controlOf<zEditBase>(link);
-  if (edit->semaphores_ & settingText) return;
-  edit->hasChanged(1);
-  zWindowWatch watch(edit);
-  notifyParent(edit, zNtfEditChange, callData);
-  if (!watch.gone() && XmTextGetLastPosition(widget) >= XmTextGetMaxLength(widget)) {
-    notifyParent(edit, zNtfEditMaxText, callData);
-  }
-}
-
-void zEditBase::focusCB(Widget, XtPointer link, XtPointer callData) {
-  notifyParent(controlOf<zEditBase>(link), zNtfEditSetFocus, callData);
-}
-
-void zEditBase::losingFocusCB(Widget, XtPointer link, XtPointer callData) {
-  notifyParent(controlOf<zEditBase>(link), zNtfEditKillFocus, callData);
-}
-
-// Return in a field presses the dialog's default button.
-void zEditBase::activateCB(Widget, XtPointer link, XtPointer callData) {
-  auto* edit = controlOf<zEditBase>(link);
-  if (!(edit->styleValue() & zEditStyle::wantReturn)) edit->pressDefaultButton(callData);
+int zEditBase::undo() {
+  if (!canUndo() || !textWidget()) return 0;
+  const zWindowWatch watch(this);
+  notifyParent(this, zNtfEditUpdate, nullptr);
+  if (watch.gone() || !canUndo()) return 1;
+  ziEditUndo undo = undo_;
+  const ziEditState before = undo.exchange({getText(), widgetSelection().end});
+  setText(before.text, settingText);
+  XmTextSetInsertionPosition(textWidget(), before.caret);
+  undo_ = undo;
+  hasChanged(1);
+  notifyParent(this, zNtfEditChange, nullptr);
+  return 1;
 }

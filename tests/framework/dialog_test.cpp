@@ -31,7 +31,6 @@ namespace {
 
 constexpr int plainForm = 584;
 constexpr int editId = 20;
-constexpr unsigned long editStyle = zStyleTabStop;
 
 // A dialog with a control of every kind.
 constexpr int everyForm = 9500;
@@ -71,9 +70,8 @@ class Later : public zEvH {
 // The plain form with an edit in it, bound to `stored`.
 class TestForm : public zFormDialog {
  public:
-  explicit TestForm(unsigned long style = editStyle)
-      : zFormDialog(app->rootWindow(), zResId(plainForm), 0) {
-    new zEditBase(this, new zSizer(10, 8, 150, 26, sizer()), style, "", editId);
+  TestForm() : zFormDialog(app->rootWindow(), zResId(plainForm), 0) {
+    new zEditBase(this, new zSizer(10, 8, 150, 26, sizer()), zStyleTabStop, "", editId);
     get(editId)->show(1);
     edit = new zEditLine(this, editId, &stored);
     text = new zStaticText(this, 100);
@@ -504,63 +502,6 @@ TEST(Modal, TheWindowBehindTakesNoInput) {
   EXPECT_TRUE(clicked);
   EXPECT_FALSE(behind.isFinished());
   EXPECT_EQ(behind.closeRequests, 0);
-}
-
-// Typing.
-
-class Typist : public zEvH {
- public:
-  int changed(zNotifyEvt*) { return ++changes, 0; }
-  int changes = 0;
-};
-
-TEST(Edit, TellsOfTypingOnceForEachKey) {
-  TestForm form;
-  Typist typist;
-  form.edit->setNotifyChange(&typist, &Typist::changed);
-  form.show(1);
-  ASSERT_TRUE(x_driver::show(form));
-  ASSERT_TRUE(x_driver::giveFocus(*form.edit));
-  x_driver::text("ab");
-  x_driver::key(XK_BackSpace);
-  EXPECT_EQ(form.edit->getText(), "a");
-  EXPECT_EQ(typist.changes, 3);
-  form.edit->text("set by the program");
-  form.edit->text("set by the program");
-  EXPECT_EQ(typist.changes, 3);
-  form.edit->selection(4, 6);
-  EXPECT_EQ(form.edit->selection(), (zRange{4, 6}));
-  x_driver::text("X");
-  EXPECT_EQ(form.edit->getText(), "set X the program");
-}
-
-TEST(Edit, StylesShapeWhatIsTyped) {
-  struct Case {
-    unsigned long style;
-    const char* result;
-  };
-  for (const Case& c : {Case{zEditStyle::upperCase, "ABC"}, Case{zEditStyle::lowerCase, "abc"},
-                        Case{zEditStyle::readOnly, ""}}) {
-    TestForm form(editStyle | c.style);
-    form.show(1);
-    ASSERT_TRUE(x_driver::show(form));
-    x_driver::giveFocus(*form.edit);
-    x_driver::text("aBc");
-    EXPECT_EQ(form.edit->getText(), c.result);
-  }
-}
-
-TEST(Edit, ShowsOnlyWhatAWidgetCanTake) {
-  TestForm form;
-  form.edit->text("caf\xE9\ttab\x01");
-  EXPECT_EQ(form.edit->getText(), "caf? tab?");
-  form.edit->limitText(3);
-  form.show(1);
-  ASSERT_TRUE(x_driver::show(form));
-  form.edit->text("");
-  ASSERT_TRUE(x_driver::giveFocus(*form.edit));
-  x_driver::text("abcdef");
-  EXPECT_EQ(form.edit->getText(), "abc");
 }
 
 // Message boxes.
