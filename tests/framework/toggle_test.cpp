@@ -206,7 +206,7 @@ TEST(Buttons, TakeNoColorsFromTheResourceDatabase) {
     x_driver::release();
   }
   EXPECT_GT(x_driver::countPixels(*form.checks[2], {0, 0, 20, 20}, zWhite), 30) << "box";
-  EXPECT_GT(x_driver::countPixels(*form.get(cancel), {10, 5, 60, 30}, zBlack), 100) << "picture";
+  EXPECT_GT(x_driver::countPixels(*form.get(cancel), {10, 5, 60, 30}, zBlack), 40) << "picture";
   EXPECT_GT(x_driver::countPixels(*form.get(41), {0, 0, 40, 30}, zDialogGrey), 100) << "masked";
   EXPECT_EQ(form.get(none)->getWidget(), nullptr);
 }
