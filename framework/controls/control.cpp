@@ -3,6 +3,7 @@
 #include <X11/keysym.h>
 #include <Xm/Xm.h>
 
+#include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
 #include "framework/core/errors.h"
 #include "framework/core/event_translation.h"
@@ -16,26 +17,38 @@ zControl::zControl(zWindow* parent, zSizer* sizer, unsigned long style, const ch
   ziSetType(zTypeControl);
 }
 
-zControl::zControl(zWindow* parent, int id) : zChildWin(parent, id), subType_(subTypeOther) {
+zControl::zControl(zWindow* parent, int id) : zControl(ziAdopt{}, parent, id) {
+  bury();
+}
+
+zControl::zControl(ziAdopt, zWindow* parent, int id)
+    : zChildWin(parent, id), subType_(subTypeOther) {
   ziSetType(zTypeControl);
   if (husk() && husk()->isA(zTypeControl)) {
     const auto* old = static_cast<const zControl*>(husk());
     textColor_ = old->textColor_;
     subType_ = old->subType_;
   }
-  bury();
 }
 
+// The shadows among them: a disabled label keeps those that it was made with for its text.
 std::vector<Arg> zControl::commonArgs() const {
   const bool tabStop = (styleValue() & zStyleTabStop) != 0;
-  std::vector<Arg> args(7);
-  XtSetArg(args[0], XmNbackground, ziClrm->pixel(backgroundColor()));
+  const unsigned long background = ziClrm->pixel(backgroundColor());
+  Pixel foreground = 0, top = 0, bottom = 0, select = 0;
+  Screen* screen = DefaultScreenOfDisplay(app->display());
+  XmGetColors(screen, DefaultColormapOfScreen(screen), background, &foreground, &top, &bottom,
+              &select);
+  std::vector<Arg> args(9);
+  XtSetArg(args[0], XmNbackground, background);
   XtSetArg(args[1], XmNforeground, ziClrm->pixel(textColor_));
   XtSetArg(args[2], XmNtraversalOn, tabStop);
   XtSetArg(args[3], XmNwidth, std::max(sizer()->width(), 1));
   XtSetArg(args[4], XmNheight, std::max(sizer()->height(), 1));
   XtSetArg(args[5], XmNsensitive, !(styleValue() & zStyleDisabled));
   XtSetArg(args[6], XmNnavigationType, ziNavigation(tabStop));
+  XtSetArg(args[7], XmNtopShadowColor, top);
+  XtSetArg(args[8], XmNbottomShadowColor, bottom);
   return args;
 }
 
@@ -45,7 +58,7 @@ int zControl::adoptWidget(Widget real, Widget scrolled) {
   setColors(target, backgroundColor());
   link()->control = target;
   link()->kind = subType_;
-  XtInsertEventHandler(target, ziWindowEventMask, False, CtrlProc, link(), XtListHead);
+  listen(target, ziWindowEventMask, CtrlProc, XtListHead);
   return 1;
 }
 
@@ -53,10 +66,6 @@ int zControl::adoptWidget(Widget real, Widget scrolled) {
 void zControl::setColors(Widget widget, const zColor& background) const {
   XmChangeColor(widget, ziClrm->pixel(background));
   XtVaSetValues(widget, XmNforeground, ziClrm->pixel(textColor_), nullptr);
-}
-
-void zControl::addCallback(Widget widget, const char* list, XtCallbackProc procedure) {
-  XtAddCallback(widget, list, procedure, link());
 }
 
 int zControl::notifyParent(zWindow* control, unsigned code, void* callData) {
@@ -79,20 +88,28 @@ void zControl::textColor(const zColor& color) {
   }
 }
 
+bool zControl::leavesTypingToWidget() const {
+  return subType_ == subTypeEdit || isA(zTypeComboBoxFull);
+}
+
 // Where a text widget does the typing, only keys that are no plain characters are offered.
 bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
-  if (control->subType_ != subTypeEdit) return true;
+  if (!control->leavesTypingToWidget()) return true;
   const bool plain = key.code() < XK_BackSpace || key.code() == XK_Multi_key;
   return !plain || key.alt() || key.ctrl();
 }
 
-void zControl::keyPressedOrReleased(XEvent* event) {
+void zControl::keyPressedOrReleased(XEvent* event, Boolean* goOn) {
   const bool pressed = event->type == KeyPress;
   zKeyEvt key = ziKeyEvent(this, event, pressed ? zMsgKeyDown : zMsgKeyUp);
   if (!keyReachesHandlers(this, key)) return;
   zWindowWatch watch(this);
   if (doCommandHandler(&key, this) || watch.gone()) return;
-  if (!pressed || subType_ == subTypeEdit || ziCharactersOf(event).empty()) return;
+  if (pressed && ziPressMnemonic(this, key)) {
+    *goOn = False;
+    return;
+  }
+  if (!pressed || leavesTypingToWidget() || ziCharactersOf(event).empty()) return;
   key.message = zMsgChar;
   ch(&key);
 }
@@ -119,13 +136,13 @@ void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   }
 }
 
-void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn) {
+void zControl::CtrlProc(Widget, XtPointer link, XEvent* event, Boolean* goOn) {
   auto* control = controlOf<zControl>(link);
   if (!control) return;
   switch (event->type) {
     case KeyPress:
     case KeyRelease:
-      control->keyPressedOrReleased(event);
+      control->keyPressedOrReleased(event, goOn);
       break;
     case ButtonPress:
       control->mousePressed(event, goOn);
@@ -146,9 +163,6 @@ void zControl::CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* g
       control->crossed(event);
       break;
     case MapNotify:
-      if (control->isA(zTypeGroupBox)) {
-        XLowerWindow(XtDisplay(widget), XtWindow(XtParent(widget)));
-      }
       control->defineCursor();
       break;
     default:

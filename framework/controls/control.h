@@ -27,6 +27,10 @@ class zControl : public zChildWin {
   int getSubType() const { return subType_; }
 
  protected:
+  // The same for a class whose generic control has state: that takes it from husk() and calls
+  // bury().
+  zControl(ziAdopt, zWindow* parent, int id);
+
   virtual void doText(const char* value);
 
   // Puts the real widget, made in the container, to work: CtrlProc in front of its own handlers,
@@ -36,8 +40,6 @@ class zControl : public zChildWin {
   // Gives a widget of this control a background, the shadows that go with it, and the text colour.
   void setColors(Widget widget, const zColor& background) const;
 
-  // A Motif callback of this control whose client data is the control's ziControlCB.
-  void addCallback(Widget widget, const char* list, XtCallbackProc procedure);
   // Sends a command event with a notification code to the parent.
   static int notifyParent(zWindow* control, unsigned code, void* callData);
   // The control behind a callback's client data, or null.
@@ -51,8 +53,9 @@ class zControl : public zChildWin {
 
  private:
   static void CtrlProc(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
+  bool leavesTypingToWidget() const;
   static bool keyReachesHandlers(const zControl* control, const zKeyEvt& key);
-  void keyPressedOrReleased(XEvent* event);
+  void keyPressedOrReleased(XEvent* event, Boolean* goOn);
   void mousePressed(XEvent* event, Boolean* goOn);
   void crossed(XEvent* event);
 

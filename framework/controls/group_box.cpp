@@ -6,6 +6,15 @@
 
 #include "framework/core/x_text.h"
 
+namespace {
+
+// Called after the handler that raises every container.
+void lowerOnMap(Widget container, XtPointer, XEvent* event, Boolean*) {
+  if (event->type == MapNotify) XLowerWindow(XtDisplay(container), XtWindow(container));
+}
+
+}  // namespace
+
 zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zButton(parent, sizer, style, title, id) {
   ziSetType(zTypeGroupBox);
@@ -20,6 +29,7 @@ zGroupBox::zGroupBox(zWindow* parent, int id) : zButton(parent, id) {
 
 void zGroupBox::createFrame() {
   const Widget board = createContainer("Frame");
+  XtAddEventHandler(board, StructureNotifyMask, False, lowerOnMap, nullptr);
   const std::vector<Arg> args = commonArgs();
   const Widget frame =
       XtCreateManagedWidget("Frame", xmFrameWidgetClass, board, const_cast<Arg*>(args.data()),
@@ -33,12 +43,11 @@ void zGroupBox::createFrame() {
 }
 
 void zGroupBox::createTitle(const char* title) {
-  const ziXmString text(ziParseTitle(title));
-  label_ = XtVaCreateManagedWidget("Title", xmLabelGadgetClass, getWidget(), XmNframeChildType,
-                                   XmFRAME_TITLE_CHILD, XmNchildHorizontalAlignment,
-                                   XmALIGNMENT_BEGINNING, XmNchildVerticalAlignment,
-                                   XmALIGNMENT_CENTER, XmNlabelString, text.get(), XmNfontList,
-                                   getFont() ? getFont()->fontList() : nullptr, nullptr);
+  label_ = XtVaCreateManagedWidget(
+      "Title", xmLabelGadgetClass, getWidget(), XmNframeChildType, XmFRAME_TITLE_CHILD,
+      XmNchildHorizontalAlignment, XmALIGNMENT_BEGINNING, XmNchildVerticalAlignment,
+      XmALIGNMENT_CENTER, XmNfontList, getFont() ? getFont()->fontList() : nullptr, nullptr);
+  ziSetLabel(label_, title);
   colorTitle(backgroundColor());
 }
 
@@ -54,8 +63,7 @@ void zGroupBox::doText(const char* value) {
     if (*value) createTitle(value);
     return;
   }
-  const ziXmString text(ziParseTitle(value));
-  XtVaSetValues(label_, XmNlabelString, text.get(), nullptr);
+  ziSetLabel(label_, value);
 }
 
 void zGroupBox::ziBackgroundColor(const zColor& color) {

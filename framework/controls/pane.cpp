@@ -32,7 +32,7 @@ int zPane::create() {
   setWidgets(area, nullptr);
   link()->control = area;
   listen(area, ziWindowEventMask, ziWinProc);
-  XtAddCallback(area, XmNexposeCallback, exposeCB, link());
+  addCallback(area, XmNexposeCallback, exposeCB);
   return 1;
 }
 

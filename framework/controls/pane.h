@@ -39,7 +39,8 @@ class zPane : public zChildWin {
   // The same, and leaves it to the derived class to take the husk's state and bury it.
   zPane(ziAdopt, zWindow* parent, int id);
 
-  void paint(const zRect& area);
+  // Brings this part of the drawing area on the screen.
+  virtual void paint(const zRect& area);
 
  private:
   static void exposeCB(Widget widget, XtPointer link, XtPointer callData);

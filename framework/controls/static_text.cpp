@@ -8,6 +8,7 @@
 #include "framework/core/app.h"
 #include "framework/core/x_text.h"
 #include "framework/drawing/bitmap.h"
+#include "framework/drawing/display.h"
 #include "framework/resources/resources.h"
 
 namespace {
@@ -36,7 +37,7 @@ zStaticText::zStaticText(zWindow* parent, zSizer* sizer, unsigned long style, co
 
 zStaticText::zStaticText(zWindow* parent, int id) : zControl(parent, id) {
   ziSetType(zTypeStaticText);
-  // An icon belongs to the generic control's end of life no longer: load it anew.
+  // The generic control's picture went with it.
   if (getWidget() && subStyle() == icon) doText(title().c_str());
 }
 
@@ -45,12 +46,10 @@ zStaticText::~zStaticText() = default;
 void zStaticText::createLabel() {
   const Widget board = createContainer("Label");
   std::vector<Arg> args = commonArgs();
-  const ziXmString label(ziParseTitle(title()));
   const int alignment = subStyle() <= right ? subStyle() : static_cast<int>(left);
   const auto add = [&args](const char* name, XtArgVal value) {
     args.push_back({const_cast<char*>(name), value});
   };
-  add(XmNlabelString, reinterpret_cast<XtArgVal>(label.get()));
   add(XmNalignment, alignment);
   add(XmNrecomputeSize, False);
   add(XmNmarginWidth, 0);
@@ -61,7 +60,7 @@ void zStaticText::createLabel() {
                                               static_cast<Cardinal>(args.size()));
   XtVaSetValues(widget, XmNtraversalOn, False, nullptr);
   adoptWidget(widget);
-  if (subStyle() == icon) doText(title().c_str());
+  doText(title().c_str());
 }
 
 void zStaticText::createDrawn() {
@@ -80,12 +79,26 @@ void zStaticText::doText(const char* value) {
   const Widget widget = getWidget();
   if (!widget || isDrawn(subStyle())) return;
   if (subStyle() == icon && value[0] == '#') {
-    icon_ = std::make_unique<zIcon>(zResId(std::atoi(value + 1)));
-    XtVaSetValues(widget, XmNlabelType, XmPIXMAP, XmNlabelPixmap, icon_->pixmap(), nullptr);
-    return;
+    showIcon(std::atoi(value + 1));
+  } else {
+    ziSetLabel(widget, value);
   }
-  const ziXmString label(ziParseTitle(value));
-  XtVaSetValues(widget, XmNlabelString, label.get(), nullptr);
+}
+
+// Laid on the background, since a label knows nothing of masks. Without such an icon the label
+// stays as it is.
+void zStaticText::showIcon(int number) {
+  const zIcon source{zResId(number)};
+  if (source.pixmap() == None) return;
+  zPixmapDisplay image(source.size());
+  image.lock();
+  image.setColor(backgroundColor());
+  image.fillRect({zPoint{}, source.size()});
+  image.copy(source.pixmap(), {zPoint{}, source.size()}, {}, source.mask());
+  image.unlock();
+  auto picture = std::make_unique<zBitmap>(image.release(), source.size());
+  XtVaSetValues(getWidget(), XmNlabelType, XmPIXMAP, XmNlabelPixmap, picture->pixmap(), nullptr);
+  picture_ = std::move(picture);
 }
 
 void zStaticText::redrawCB(Widget, XtPointer link, XtPointer callData) {

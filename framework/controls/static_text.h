@@ -3,7 +3,7 @@
 
 #include "framework/controls/control.h"
 
-class zIcon;
+class zBitmap;
 
 class zStaticText : public zControl {
  public:
@@ -32,9 +32,10 @@ class zStaticText : public zControl {
   int subStyle() const { return static_cast<int>(styleValue() & 0xF); }
   void createLabel();
   void createDrawn();
+  void showIcon(int number);
   void drawFrame();
   static void redrawCB(Widget widget, XtPointer link, XtPointer callData);
   static void resizeCB(Widget widget, XtPointer link, XtPointer callData);
 
-  std::unique_ptr<zIcon> icon_;
+  std::unique_ptr<zBitmap> picture_;  // of an icon
 };

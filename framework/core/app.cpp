@@ -10,8 +10,10 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "framework/controls/button.h"
 #include "framework/core/errors.h"
 #include "framework/core/frame_window.h"
+#include "framework/dialogs/control_types.h"
 #include "framework/drawing/color.h"
 #include "framework/drawing/font.h"
 #include "framework/layout/dialog_unit.h"
@@ -68,6 +70,7 @@ zApp::zApp(unsigned argc, char** argv, std::string cmdLine)
   ziClrm = new zColorMap;
   XSetErrorHandler(zAppXlibErrorHandler);
   ziMotifInitialize(0, argc_, argv_);
+  ziInitPanes();
 }
 
 zApp::~zApp() {
@@ -77,6 +80,7 @@ zApp::~zApp() {
   ziClrm = nullptr;
   delete zAppFontDict;
   zAppFontDict = nullptr;
+  zButton::resetStaticGroups();
   app = nullptr;
 }
 

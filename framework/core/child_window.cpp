@@ -8,10 +8,15 @@ namespace {
 
 constexpr int sizeWhenNotSet = 10;
 
-// A container's window goes above its siblings when it is mapped, so that frames drawn around
-// controls stay below them.
-void raiseOnMap(Widget widget, XtPointer, XEvent* event, Boolean*) {
-  if (event->type == MapNotify) XRaiseWindow(XtDisplay(widget), XtWindow(widget));
+// A container's window goes above its siblings when it is mapped, that of a frame drawn around
+// controls below them.
+void stackOnMap(Widget widget, XtPointer link, XEvent* event, Boolean*) {
+  if (event->type != MapNotify) return;
+  if (static_cast<ziControlCB*>(link)->window->isA(zTypeGroupBox)) {
+    XLowerWindow(XtDisplay(widget), XtWindow(widget));
+  } else {
+    XRaiseWindow(XtDisplay(widget), XtWindow(widget));
+  }
 }
 
 }  // namespace
@@ -54,7 +59,7 @@ Widget zChildWin::createContainer(const char* name) {
       0, XmNmarginHeight, 0, XmNresizePolicy, XmRESIZE_NONE, XmNshadowThickness, 0, XmNautoUnmanage,
       False, XmNbackground, ziClrm->pixel(backgroundColor()), XmNuserData,
       static_cast<zWindow*>(this), nullptr);
-  XtAddEventHandler(container_, StructureNotifyMask, False, raiseOnMap, nullptr);
+  listen(container_, StructureNotifyMask, stackOnMap);
   return container_;
 }
 

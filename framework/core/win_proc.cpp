@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include "framework/controls/combo_box.h"
+#include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
 #include "framework/core/event_translation.h"
 #include "framework/core/frame_window.h"
@@ -16,7 +18,7 @@ void keyPressed(zWindow* window, XEvent* event) {
   zKeyEvt key = ziKeyEvent(window, event, zMsgKeyDown);
   const std::string characters = ziCharactersOf(event);
   zWindowWatch watch(window);
-  if (doCommandHandler(&key, window) || watch.gone()) return;
+  if (doCommandHandler(&key, window) || watch.gone() || ziPressMnemonic(window, key)) return;
   if (characters.empty()) return;
   key.parm1 = static_cast<unsigned char>(characters[0]);
   key.message = zMsgChar;
@@ -44,7 +46,6 @@ void sizeFromServer(zWindow* window, XEvent* event) {
 }
 
 void mapped(zWindow* window, XEvent* event) {
-  if (window->isA(zTypePane)) XRaiseWindow(event->xmap.display, event->xmap.window);
   window->defineCursor();
   if (window == app->rootWindow()) sizeFromServer(window, event);
 }
@@ -182,6 +183,10 @@ void ziWinProc(Widget, XtPointer link, XEvent* event, Boolean*) {
 void ConfigTopProc(Widget, XtPointer link, XEvent* event, Boolean*) {
   zWindow* window = static_cast<ziControlCB*>(link)->window;
   if (!window) return;
+  const bool grabbed = event->type == FocusOut && event->xfocus.mode == NotifyGrab;
+  if (event->type == ConfigureNotify || (event->type == FocusOut && !grabbed)) {
+    zComboBoxBase::ziResetPopup();
+  }
   zWindowWatch watch(window);
   if (event->type == FocusIn || event->type == FocusOut) {
     zActivateEvt activation;

@@ -78,7 +78,7 @@ void zWindow::takeOver(zWindow* old) {
   if (ctrlNotifyList_) ctrlNotifyList_->removeTarget(old);
   kids_.swap(old->kids_);
   for (zWindow* kid : kids_) kid->parent_ = this;
-  listeners_.swap(old->listeners_);
+  takeOff_.swap(old->takeOff_);
   cursor_ = std::move(old->cursor_);
   setSizer(old->sizer_.release());
   shown_ = old->shown_;
@@ -103,16 +103,22 @@ void zWindow::setWidgets(Widget main, Widget scrolled) {
   }
 }
 
-void zWindow::listen(Widget widget, EventMask mask, XtEventHandler procedure) {
-  XtAddEventHandler(widget, mask, False, procedure, link());
-  listeners_.push_back({widget, mask, procedure});
+void zWindow::listen(Widget widget, EventMask mask, XtEventHandler procedure,
+                     XtListPosition position) {
+  ziControlCB* data = link();
+  XtInsertEventHandler(widget, mask, False, procedure, data, position);
+  takeOff_.emplace_back([=] { XtRemoveEventHandler(widget, mask, False, procedure, data); });
+}
+
+void zWindow::addCallback(Widget widget, const char* list, XtCallbackProc procedure) {
+  ziControlCB* data = link();
+  XtAddCallback(widget, list, procedure, data);
+  takeOff_.emplace_back([=] { XtRemoveCallback(widget, list, procedure, data); });
 }
 
 void zWindow::unlisten() {
-  for (const Listener& l : listeners_) {
-    XtRemoveEventHandler(l.widget, l.mask, False, l.procedure, link());
-  }
-  listeners_.clear();
+  for (const auto& takeOff : takeOff_) takeOff();
+  takeOff_.clear();
 }
 
 void zWindow::setSizer(zSizer* sizer) {
@@ -499,6 +505,7 @@ void zWindow::populateFromRes(const zResId& id) {
 }
 
 void zAppDoSetAllDestroyed(zWindow* window) {
+  window->unlisten();
   window->setDestroyed();
   for (zWindow* kid : window->kids_) zAppDoSetAllDestroyed(kid);
 }

@@ -8,10 +8,12 @@
 
 #include <X11/Intrinsic.h>
 
+#include <functional>
 #include <list>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "framework/core/event.h"
 #include "framework/core/notify.h"
@@ -165,7 +167,7 @@ class zWindow : public zEvH {
   // Makes the generic controls of a dialog template in this window.
   void populateFromRes(const zResId& id);
 
-  // The widget tree has gone already: nothing of it may be touched any more.
+  // The widget tree goes or has gone already: nothing of it may be touched any more.
   void setDestroyed() { destroyed_ = true; }
   bool isDestroyed() const { return destroyed_; }
 
@@ -177,9 +179,13 @@ class zWindow : public zEvH {
   void setWidgets(Widget main, Widget scrolled);
   void setShown(bool shown) { shown_ = shown; }
   ziControlCB* link() const { return link_.get(); }
-  // Puts an event procedure of the framework on a widget of this window; unlisten() takes all off.
-  void unlisten();
-  void listen(Widget widget, EventMask mask, XtEventHandler procedure);
+  // Put an event procedure or a Motif callback on a widget of this window, with link() for its
+  // data. unlisten() takes all of them off: a widget outlives the window while the toolkit has it
+  // in hand, and goes on getting events in a nested loop.
+  void listen(Widget widget, EventMask mask, XtEventHandler procedure,
+              XtListPosition position = XtListTail);
+  void addCallback(Widget widget, const char* list, XtCallbackProc procedure);
+  virtual void unlisten();
 
   void addControlHandler(int id, unsigned code, zEventHandler handler);
   void removeControlHandler(int id, unsigned code, const zEventHandler& handler);
@@ -204,11 +210,6 @@ class zWindow : public zEvH {
   static void ziFocusTimeout(XtPointer link, XtIntervalId*);
   void ziSetFocusHandler();
   void cancelPendingFocus();
-  struct Listener {
-    Widget widget;
-    EventMask mask;
-    XtEventHandler procedure;
-  };
 
   bool destroyed_ = false;
   bool shown_ = false;
@@ -230,10 +231,11 @@ class zWindow : public zEvH {
   XtIntervalId pendingFocus_ = 0;
   bool captured_ = false;
   std::unique_ptr<ziControlCB> link_;
-  std::list<Listener> listeners_;
+  std::vector<std::function<void()>> takeOff_;  // what unlisten() does
 };
 
-// Marks a window and all below it as destroyed.
+// Takes a window and all below it off their widgets, which must still be there, and marks them as
+// destroyed.
 void zAppDoSetAllDestroyed(zWindow* window);
 
 // The event masks of the framework's procedures.

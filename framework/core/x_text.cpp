@@ -37,6 +37,12 @@ char ziParseForMnemonic(std::string_view title) {
   return mnemonic;
 }
 
+void ziSetLabel(Widget label, std::string_view title) {
+  const ziXmString text(ziParseTitle(title));
+  const KeySym mnemonic = static_cast<unsigned char>(ziParseForMnemonic(title));
+  XtVaSetValues(label, XmNlabelString, text.get(), XmNmnemonic, mnemonic, nullptr);
+}
+
 std::string ziTextOf(Widget text) {
   char* value = XmTextGetString(text);
   std::string copy(value ? value : "");

@@ -32,6 +32,9 @@ void ziSetFontList(Widget widget, XmFontList fonts);
 std::string ziParseTitle(std::string_view title);
 char ziParseForMnemonic(std::string_view title);
 
+// Gives a widget of the label family the text and the mnemonic of a title.
+void ziSetLabel(Widget label, std::string_view title);
+
 // XmText's texts as owned strings, and its setters.
 std::string ziTextOf(Widget text);
 void ziSetText(Widget text, std::string_view value);

@@ -4,8 +4,13 @@
 #include <memory>
 
 #include "framework/controls/bitmap_button.h"
+#include "framework/controls/check_box.h"
 #include "framework/controls/group_box.h"
+#include "framework/controls/pane_controls.h"
+#include "framework/controls/panel.h"
+#include "framework/controls/radio_button.h"
 #include "framework/controls/static_text.h"
+#include "framework/controls/tab_control.h"
 #include "framework/core/app.h"
 #include "framework/table/table.h"
 
@@ -30,10 +35,21 @@ struct Row {
 
 // By initIntPack, in this order.
 constexpr Row packRows[] = {
+    {"zCheckBox3dClass", build<zCheckBox>},
+    {"zRadioBtn3dClass", build<zRadioButton>},
     {"zStatTxt3dClass", build<zStaticText>},
     {"zGroupBox3dClass", build<zGroupBox>},
     {"zBmpBtnClass", build<zBitmapButton>},
+    {"zPanel3dClass", build<zPanel3d>},
     {"zTable", build<zTable>},
+};
+
+// By the application object.
+constexpr Row paneRows[] = {
+    {"zTextPane", build<zTextPane>},
+    {"zPaneControl", build<zPaneControl>},
+    {"zBitmapPane", build<zBitmapPane>},
+    {"zTabCtrl", build<zTabCtrl>},
 };
 
 template <std::size_t N>
@@ -57,4 +73,8 @@ const zControlType* zControlType::find(const std::string& name) {
 
 void initIntPack() {
   registerRows(packRows);
+}
+
+void ziInitPanes() {
+  registerRows(paneRows);
 }

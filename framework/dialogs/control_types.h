@@ -28,3 +28,6 @@ class zControlType {
   std::string name_;
   Builder builder_;
 };
+
+// Registers the panes that every program has.
+void ziInitPanes();

@@ -6,6 +6,7 @@
 #include <Xm/MwmUtil.h>
 #include <Xm/Protocols.h>
 
+#include "framework/controls/combo_box.h"
 #include "framework/controls/group_box.h"
 #include "framework/core/app.h"
 #include "framework/core/event_translation.h"
@@ -253,6 +254,7 @@ void zDialogFrame::shutdown() {
   zWindowWatch watch(this);
   if (doCommandHandler(&close, this) || watch.gone() || kill(&close)) return;
   const bool root = isRoot();
+  zComboBoxBase::ziResetPopup();
   finished_ = true;
   cancelPendingShow();
   if (root) {

@@ -3,8 +3,11 @@
 #include <cstdio>
 
 #include "framework/controls/button.h"
+#include "framework/controls/combo_box.h"
 #include "framework/controls/edit.h"
 #include "framework/controls/group_box.h"
+#include "framework/controls/list_box.h"
+#include "framework/controls/scroll_bar.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
 #include "framework/core/frame_window.h"
@@ -89,6 +92,7 @@ void ziDialogReader::createChildren() {
   const std::unique_ptr<zDisplay> display = makeDisplay();
   display->lock();
   if (font_) display->setFont(font_);
+  firstButton_ = true;
   if (window_->isA(zTypeDialogFrame)) static_cast<zDialogFrame*>(window_)->clearGroupList();
   for (const zControlRecord* r = template_->controls; r->atom || r->className; ++r) {
     const zPoint at = zDialogUnit(r->x, r->y, display.get());
@@ -103,7 +107,9 @@ void ziDialogReader::createButton(const zControlRecord& r, zSizer* place) {
   if ((r.style & classStyleMask) == defaultButtonStyle && defaultId_ == noDefault) defaultId_ = id;
   const unsigned subtype =
       r.atom == zAtomPictureButton ? unsigned{zButton::picture} : r.style & subtypeMask;
-  unsigned long style = r.style;
+  unsigned long style = (r.style & ~(subtypeMask | zButton::picture)) | subtype;
+  if (firstButton_) zButton::resetStaticGroups();
+  firstButton_ = false;
   if (subtype == zButton::radio || subtype == zButton::radioAuto ||
       subtype == zButton::radioAuto2) {
     style |= zStyleTabStop;
@@ -132,6 +138,18 @@ void ziDialogReader::createBaseTypes(const zControlRecord& r, zSizer* place) {
       break;
     case zAtomStatic:
       made = new zStaticText(window_, place, r.style, r.title, id);
+      break;
+    case zAtomListBox:
+      made = new zListBoxBase(window_, place, r.style, r.title, id);
+      made->create();
+      break;
+    case zAtomScrollBar:
+      made = new zScrollBarBase(window_, place, r.style, r.title, id);
+      made->create();
+      break;
+    case zAtomComboBox:
+      made = new zComboBoxBase(window_, place, r.style, r.title, id);
+      made->create();
       break;
     default:
       if (const zControlType* type = r.className ? zControlType::find(r.className) : nullptr) {

@@ -57,6 +57,7 @@ class ziDialogReader {
   zResId id_;
   std::string caption_;
   bool hasMenu_ = false;
+  bool firstButton_ = true;  // none made of this template yet
   unsigned long style_ = 0;
   zResId menuId_{0};
   const zDialogTemplate* template_ = nullptr;

@@ -99,10 +99,15 @@ void zDisplay::edge3d(const zRect& area, bool raised) {
   line({area.right - 1, area.top}, {area.right - 1, area.bottom - 1});
 }
 
-void zDisplay::copy(Drawable source, const zRect& from, const zPoint& to) {
+void zDisplay::copy(Drawable source, const zRect& from, const zPoint& to, Pixmap mask) {
   if (!gc_ || from.isEmpty()) return;
+  if (mask != None) {
+    XSetClipMask(app->display(), gc_, mask);
+    XSetClipOrigin(app->display(), gc_, to.x - from.left, to.y - from.top);
+  }
   XCopyArea(app->display(), source, drawable_, gc_, from.left, from.top, extent(from.width()),
             extent(from.height()), to.x, to.y);
+  if (mask != None) clearClip();
 }
 
 zWinDisplay::zWinDisplay(const zWindow* window) {

@@ -43,8 +43,9 @@ class zDisplay {
   void text(const zPoint& at, std::string_view text);
   // A border one pixel wide, light at the top left when raised, dark when sunken.
   void edge3d(const zRect& area, bool raised);
-  // A pixmap's part `from`, with its top left at `to`.
-  void copy(Drawable source, const zRect& from, const zPoint& to);
+  // A pixmap's part `from`, with its top left at `to`. Of one with a mask only what the mask's bits
+  // cover, and clipping ends.
+  void copy(Drawable source, const zRect& from, const zPoint& to, Pixmap mask = None);
 
   Drawable drawable() const { return drawable_; }
 

@@ -36,10 +36,6 @@ zTable::zTable(zWindow* parent, int id, zTableModel* model) : zPane(ziAdopt{}, p
     for (const zTLabelKind kind : {zTLabelColumns, zTLabelRows}) {
       scrollers_[kind] = std::move(generic->scrollers_[kind]);
     }
-    if (scrollers_[zTLabelColumns]) {
-      scrollers_[zTLabelColumns]->setMoved({this, &zTable::scrolledAcross});
-      scrollers_[zTLabelRows]->setMoved({this, &zTable::scrolledDown});
-    }
   }
   bury();
   setup();
@@ -63,10 +59,12 @@ int zTable::create() {
   zPane::create();
   const Widget board = getContainer();
   XtVaSetValues(board, XmNshadowThickness, zTableBorder, XmNshadowType, XmSHADOW_IN, nullptr);
-  scrollers_[zTLabelColumns] = std::make_unique<ziTableScroller>(
-      board, ziTableScroller::across, zAction<void>(this, &zTable::scrolledAcross));
-  scrollers_[zTLabelRows] = std::make_unique<ziTableScroller>(
-      board, ziTableScroller::down, zAction<void>(this, &zTable::scrolledDown));
+  scrollers_[zTLabelColumns] = std::make_unique<ziTableScroller>(board, ziTableScroller::across);
+  scrollers_[zTLabelRows] = std::make_unique<ziTableScroller>(board, ziTableScroller::down);
+  for (const auto& scroller : scrollers_) {
+    addCallback(scroller->bar(), XmNvalueChangedCallback, scrolledCB);
+    addCallback(scroller->bar(), XmNdragCallback, scrolledCB);
+  }
   arrange();
   return 1;
 }

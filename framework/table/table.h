@@ -12,6 +12,7 @@
 #include "framework/controls/pane.h"
 #include "framework/table/table_attr.h"
 #include "framework/table/table_axis.h"
+#include "framework/table/table_image.h"
 #include "framework/table/table_model.h"
 #include "framework/table/table_scroller.h"
 
@@ -97,6 +98,7 @@ class zTable : public zPane {
 
   // Repaints the part of these cells that is seen.
   void setCellsDirty(const zTableRegion& cells);
+  void setDirty(const zRect* rect, int erase) override;
   using zPane::setDirty;
   // Takes in what the model has noted, and paints at once.
   void update() override;
@@ -150,8 +152,7 @@ class zTable : public zPane {
   void measureDefaults();
   void arrange();
   void updateScrollers();
-  void scrolledAcross();
-  void scrolledDown();
+  static void scrolledCB(Widget bar, XtPointer link, XtPointer callData);
   void scrollTo(const zPoint& offset);
   void scrollIntoView(const zTableLoc& cell);
   bool takeOffset(const zPoint& offset);
@@ -193,6 +194,7 @@ class zTable : public zPane {
   void showSizingCursor(const Hit& hit);
 
   // Drawing.
+  void paint(const zRect& area) override;
   void drawCells(zDisplay& display, const zRect& area) const;
   void drawCell(zDisplay& display, const zTableLoc& cell, const zRect& area) const;
   void drawText(zDisplay& display, const std::string& text, const ziTableEnv& env,
@@ -220,6 +222,8 @@ class zTable : public zPane {
   zColor gridColor_{200, 200, 200};
   zAction<int> selectionChanged_;
   zAction<int> activeCellChanged_;
+  ziTableImage image_;
+  bool drawnEnabled_ = true;  // how the image shows the cells
   bool hasFocus_ = false;
   bool multiSelect_ = false;
   bool labelSelect_ = false;

@@ -1,5 +1,7 @@
-// The picture of a table.
+// What a table looks like.
 #include "framework/table/table.h"
+
+#include <utility>
 
 namespace {
 
@@ -21,6 +23,24 @@ zPoint placeOf(const zDimension& text, const zFont& font, unsigned alignment, co
 }
 
 }  // namespace
+
+void zTable::setDirty(const zRect* rect, int erase) {
+  image_.invalidate(rect ? *rect : zRect(zPoint{}, area_));
+  zPane::setDirty(rect, erase);
+}
+
+void zTable::paint(const zRect& area) {
+  const zRect all({0, 0}, area_);
+  const zRect seen = area.intersection(all);
+  if (seen.isEmpty() || !XtIsRealized(getWidget())) return;
+  if (std::exchange(drawnEnabled_, isEnabled()) != isEnabled()) image_.invalidate(all);
+  const Drawable image =
+      image_.bringUpToDate(this, area_, [this](zDrawEvt* event) { draw(event); });
+  zWinDisplay screen(this);
+  screen.lock();
+  screen.copy(image, seen, seen.pos());
+  screen.unlock();
+}
 
 void zTable::draw(zDrawEvt* event) {
   zDisplay& display = *event->display;

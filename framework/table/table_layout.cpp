@@ -1,5 +1,5 @@
 // Where the parts of a table stand, and scrolling.
-#include <Xm/Xm.h>
+#include <Xm/ScrollBar.h>
 
 #include "framework/table/table.h"
 
@@ -100,8 +100,11 @@ bool zTable::takeOffset(const zPoint& offset) {
   const zPoint wanted{std::clamp(offset.x, 0, most.x),
                       down < most.y ? rows_.start(rows_.at(down)) : most.y};
   if (wanted == scroll_) return false;
+  const zRect cells = cellsArea();
+  image_.shift({0, cells.top, cells.right, cells.bottom}, {0, scroll_.y - wanted.y});
+  image_.shift({cells.left, 0, cells.right, cells.bottom}, {scroll_.x - wanted.x, 0});
   scroll_ = wanted;
-  setDirty(nullptr, 0);
+  zPane::setDirty(nullptr, 0);  // shows the image as it is now
   return true;
 }
 
@@ -111,12 +114,11 @@ void zTable::scrollTo(const zPoint& offset) {
 }
 
 // The bar has the value that the user gave it and keeps it.
-void zTable::scrolledAcross() {
-  takeOffset({scrollers_[zTLabelColumns]->value(), scroll_.y});
-}
-
-void zTable::scrolledDown() {
-  takeOffset({scroll_.x, scrollers_[zTLabelRows]->value()});
+void zTable::scrolledCB(Widget bar, XtPointer link, XtPointer callData) {
+  auto* table = static_cast<zTable*>(static_cast<ziControlCB*>(link)->window);
+  const int value = static_cast<const XmScrollBarCallbackStruct*>(callData)->value;
+  const bool across = bar == table->scrollers_[zTLabelColumns]->bar();
+  table->takeOffset(across ? zPoint{value, table->scroll_.y} : zPoint{table->scroll_.x, value});
 }
 
 void zTable::scrollIntoView(const zTableLoc& cell) {

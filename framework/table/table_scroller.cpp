@@ -4,15 +4,12 @@
 
 #include "framework/drawing/color.h"
 
-ziTableScroller::ziTableScroller(Widget board, Direction direction, zAction<void> moved)
-    : moved_(moved) {
+ziTableScroller::ziTableScroller(Widget board, Direction direction) {
   const unsigned long grey = ziClrm->pixel(zDialogGrey);
   bar_ = XtVaCreateWidget(direction == down ? "VScroll" : "HScroll", xmScrollBarWidgetClass, board,
                           XmNorientation, direction == down ? XmVERTICAL : XmHORIZONTAL,
                           XmNtraversalOn, False, XmNhighlightThickness, 0, nullptr);
   XmChangeColor(bar_, grey);
-  XtAddCallback(bar_, XmNvalueChangedCallback, movedCB, this);
-  XtAddCallback(bar_, XmNdragCallback, movedCB, this);
 }
 
 void ziTableScroller::place(const zRect& place) {
@@ -26,17 +23,10 @@ void ziTableScroller::place(const zRect& place) {
 }
 
 void ziTableScroller::set(int total, int seen, int offset, int step) {
-  value_ = offset;
   if (!XtIsManaged(bar_)) return;  // set again when it is placed
   const int slider = std::max(seen, 1);
   const int maximum = std::max(total, offset + slider);
   XtVaSetValues(bar_, XmNminimum, 0, XmNmaximum, maximum, XmNsliderSize, slider, XmNvalue, offset,
                 XmNincrement, std::max(step, 1), XmNpageIncrement, std::max(seen - step, 1),
                 nullptr);
-}
-
-void ziTableScroller::movedCB(Widget, XtPointer scroller, XtPointer callData) {
-  auto* self = static_cast<ziTableScroller*>(scroller);
-  self->value_ = static_cast<const XmScrollBarCallbackStruct*>(callData)->value;
-  if (self->moved_) self->moved_();
 }
