@@ -68,6 +68,7 @@ int zComboBoxBase::create() {
   addCallback(text, XmNvalueChangedCallback, changedCB);
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
+  addCallback(text, XmNactivateCallback, activateCB);
   createLists(form, text, height);
   return 1;
 }
@@ -87,23 +88,23 @@ Widget zComboBoxBase::createText(Widget form, int height) {
   const auto add = [&args](const char* name, XtArgVal value) {
     args.push_back({const_cast<char*>(name), value});
   };
-  const int line = getFont() ? getFont()->height() : 0;
-  const int margin = (height - line) / 2 - highlight - shadow;
   add(XmNheight, static_cast<XtArgVal>(height));
   add(XmNeditable, typesText());
   add(XmNcursorPositionVisible, typesText());
   add(XmNhighlightThickness, highlight);
   add(XmNshadowThickness, shadow);
   add(XmNmarginWidth, textMargin);
-  add(XmNmarginHeight, static_cast<XtArgVal>(std::max(margin, 0)));
+  add(XmNmarginHeight, 0);
   add(XmNtopAttachment, XmATTACH_FORM);
   add(XmNleftAttachment, XmATTACH_FORM);
   add(XmNbottomAttachment, arrow_ ? XmATTACH_FORM : XmATTACH_NONE);
   add(XmNrightAttachment, arrow_ ? XmATTACH_WIDGET : XmATTACH_FORM);
   if (arrow_) add(XmNrightWidget, reinterpret_cast<XtArgVal>(arrow_));
   if (getFont()) add(XmNfontList, reinterpret_cast<XtArgVal>(getFont()->fontList()));
-  return XtCreateManagedWidget("Text", xmTextWidgetClass, form, args.data(),
-                               static_cast<Cardinal>(args.size()));
+  const Widget text = XtCreateManagedWidget("Text", xmTextWidgetClass, form, args.data(),
+                                            static_cast<Cardinal>(args.size()));
+  centreLine(text, height);
+  return text;
 }
 
 void zComboBoxBase::createLists(Widget form, Widget text, int line) {
@@ -354,6 +355,10 @@ void zComboBoxBase::changedCB(Widget, XtPointer link, XtPointer callData) {
 
 void zComboBoxBase::focusCB(Widget, XtPointer link, XtPointer callData) {
   notifyParent(controlOf<zComboBoxBase>(link), zNtfComboSetFocus, callData);
+}
+
+void zComboBoxBase::activateCB(Widget, XtPointer link, XtPointer callData) {
+  controlOf<zComboBoxBase>(link)->pressDefaultButton(callData);
 }
 
 void zComboBoxBase::losingFocusCB(Widget text, XtPointer link, XtPointer callData) {

@@ -1,7 +1,7 @@
 #include "framework/controls/control.h"
 
 #include <X11/keysym.h>
-#include <Xm/Xm.h>
+#include <Xm/Text.h>
 
 #include "framework/controls/mnemonics.h"
 #include "framework/core/app.h"
@@ -75,6 +75,25 @@ int zControl::notifyParent(zWindow* control, unsigned code, void* callData) {
   event.parm1 = control->ctrlId();
   event.window = control;
   return doCommandHandler(&event, control->parent());
+}
+
+void zControl::pressDefaultButton(void* callData) {
+  constexpr int withoutDefault = 1;
+  if (!parent()) return;
+  const zWindow* button = parent()->ziFindDefPushButton();
+  zEvent event(zMsgCommand);
+  event.callData = callData;
+  event.codeWord = zNtfClicked;
+  event.parm1 = button ? button->ctrlId() : withoutDefault;
+  event.window = this;
+  doCommandHandler(&event, parent());
+}
+
+void zControl::centreLine(Widget text, int height) const {
+  if (!getFont()) return;
+  const int labelBaseline = (height - getFont()->height()) / 2 + getFont()->ascent();
+  const int margin = labelBaseline - XmTextGetBaseline(text);
+  XtVaSetValues(text, XmNmarginHeight, std::max(margin, 0), nullptr);
 }
 
 void zControl::doText(const char* value) {

@@ -42,11 +42,17 @@ class zControl : public zChildWin {
 
   // Sends a command event with a notification code to the parent.
   static int notifyParent(zWindow* control, unsigned code, void* callData);
+  // Sends the parent what a click on its default button, or on control 1 without one, would send.
+  void pressDefaultButton(void* callData);
   // The control behind a callback's client data, or null.
   template <class T>
   static T* controlOf(XtPointer link) {
     return static_cast<T*>(static_cast<ziControlCB*>(link)->window);
   }
+
+  // Puts the line of an XmText without a margin on the baseline that a label of `height` pixels in
+  // the same place has.
+  void centreLine(Widget text, int height) const;
 
   // Argument lists common to all real widgets.
   std::vector<Arg> commonArgs() const;

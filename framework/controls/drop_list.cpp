@@ -20,8 +20,8 @@ XtEventDispatchProc passRelease = nullptr;
 
 ziDropList::ziDropList(Widget owner)
     : owner_(owner),
-      shell_(XtVaCreatePopupShell("DropList", overrideShellWidgetClass, owner, XmNsaveUnder, True, XmNallowShellResize, True,
-                                  XmNborderWidth, border, XmNborderColor,
+      shell_(XtVaCreatePopupShell("DropList", overrideShellWidgetClass, owner, XmNsaveUnder, True,
+                                  XmNallowShellResize, True, XmNborderWidth, border, XmNborderColor,
                                   BlackPixelOfScreen(XtScreen(owner)), nullptr)) {}
 
 ziDropList::~ziDropList() {

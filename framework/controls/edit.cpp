@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int defaultButtonId = 1;
 constexpr char backspace = 8;
 
 }  // namespace
@@ -48,7 +47,7 @@ void zEditBase::createText() {
   if (getFont()) add(XmNfontList, reinterpret_cast<XtArgVal>(getFont()->fontList()));
   const Widget text = XtCreateManagedWidget("TextField", xmTextWidgetClass, row, args.data(),
                                             static_cast<Cardinal>(args.size()));
-  if (!multiLine) centreLine(text);
+  if (!multiLine) centreLine(text, sizer()->height());
   ziSetText(text, title());
   adoptWidget(row, text);
   if (!readOnly) setColors(text, zWhite);
@@ -57,14 +56,6 @@ void zEditBase::createText() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
-}
-
-// Puts the line on the baseline that a label of the same place and height has.
-void zEditBase::centreLine(Widget text) const {
-  if (!getFont()) return;
-  const int labelBaseline = (sizer()->height() - getFont()->height()) / 2 + getFont()->ascent();
-  const int margin = labelBaseline - XmTextGetBaseline(text);
-  XtVaSetValues(text, XmNmarginHeight, std::max(margin, 0), nullptr);
 }
 
 // Data transfer.
@@ -232,12 +223,5 @@ void zEditBase::losingFocusCB(Widget, XtPointer link, XtPointer callData) {
 // Return in a field presses the dialog's default button.
 void zEditBase::activateCB(Widget, XtPointer link, XtPointer callData) {
   auto* edit = controlOf<zEditBase>(link);
-  if ((edit->styleValue() & zEditStyle::wantReturn) || !edit->parent()) return;
-  const zWindow* button = edit->parent()->ziFindDefPushButton();
-  zEvent event(zMsgCommand);
-  event.callData = callData;
-  event.codeWord = zNtfClicked;
-  event.parm1 = button ? button->ctrlId() : defaultButtonId;
-  event.window = edit;
-  doCommandHandler(&event, edit->parent());
+  if (!(edit->styleValue() & zEditStyle::wantReturn)) edit->pressDefaultButton(callData);
 }

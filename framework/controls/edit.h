@@ -84,7 +84,6 @@ class zEditBase : public zControl {
   enum Semaphore : unsigned { settingText = 0x1, modifying = 0x4 };
 
   void createText();
-  void centreLine(Widget text) const;
   static void modifyCB(Widget widget, XtPointer link, XtPointer callData);
   static void changedCB(Widget widget, XtPointer link, XtPointer callData);
   static void focusCB(Widget widget, XtPointer link, XtPointer callData);

@@ -5,15 +5,7 @@
 #include <Xm/LabelG.h>
 
 #include "framework/core/x_text.h"
-
-namespace {
-
-// Called after the handler that raises every container.
-void lowerOnMap(Widget container, XtPointer, XEvent* event, Boolean*) {
-  if (event->type == MapNotify) XLowerWindow(XtDisplay(container), XtWindow(container));
-}
-
-}  // namespace
+#include "framework/dialogs/dialog_frame.h"
 
 zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zButton(parent, sizer, style, title, id) {
@@ -22,14 +14,17 @@ zGroupBox::zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const 
   createFrame();
 }
 
-zGroupBox::zGroupBox(zWindow* parent, int id) : zButton(parent, id) {
+// `generic` is gone by now and only tells which of the dialog's groups this one is.
+zGroupBox::zGroupBox(zWindow* parent, int id, const zWindow* generic) : zButton(parent, id) {
   ziSetType(zTypeGroupBox);
+  if (generic && parent->isA(zTypeDialogFrame)) {
+    static_cast<zDialogFrame*>(parent)->groupTakenOver(generic, this);
+  }
   if (getWidget()) label_ = XtNameToWidget(getWidget(), "Title");
 }
 
 void zGroupBox::createFrame() {
   const Widget board = createContainer("Frame");
-  XtAddEventHandler(board, StructureNotifyMask, False, lowerOnMap, nullptr);
   const std::vector<Arg> args = commonArgs();
   const Widget frame =
       XtCreateManagedWidget("Frame", xmFrameWidgetClass, board, const_cast<Arg*>(args.data()),

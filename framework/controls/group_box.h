@@ -7,7 +7,7 @@
 class zGroupBox : public zButton {
  public:
   zGroupBox(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id);
-  zGroupBox(zWindow* parent, int id);
+  zGroupBox(zWindow* parent, int id) : zGroupBox(parent, id, parent ? parent->get(id) : nullptr) {}
 
   // The title's widget, or null for a box without a title.
   Widget getGroupLabel() const { return label_; }
@@ -17,6 +17,7 @@ class zGroupBox : public zButton {
   void doText(const char* value) override;
 
  private:
+  zGroupBox(zWindow* parent, int id, const zWindow* generic);
   void createFrame();
   void createTitle(const char* title);
   void colorTitle(const zColor& background);

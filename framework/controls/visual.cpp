@@ -90,7 +90,7 @@ void ziVisBmpButtonInternal::style(unsigned bits) {
 
 void ziVisBmpButtonInternal::bitmap(std::unique_ptr<zBitmap> bitmap, int frames) {
   bitmap_ = std::move(bitmap);
-  frames_ = frames;
+  frames_ = std::max(frames, 1);
   disabledBitmap_ = bitmap_ && frames_ == 1 ? createDisabledBmp(*bitmap_) : nullptr;
 }
 

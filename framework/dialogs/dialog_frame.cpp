@@ -142,6 +142,12 @@ void zDialogFrame::addGroup(zGroupBox* box) {
   groups_.push_back(group);
 }
 
+void zDialogFrame::groupTakenOver(const zWindow* before, zGroupBox* now) {
+  for (Group& group : groups_) {
+    if (group.box == before) group.box = now;
+  }
+}
+
 // Place and look.
 
 void zDialogFrame::ziBackgroundColor(const zColor& color) {

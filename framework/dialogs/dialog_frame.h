@@ -60,6 +60,8 @@ class zDialogFrame : public zFrameWin {
   };
   void clearGroupList() { groups_.clear(); }
   void addGroup(zGroupBox* box);
+  // Another object has taken a box's place.
+  void groupTakenOver(const zWindow* before, zGroupBox* now);
   const std::list<Group>& getGroupList() const { return groups_; }
 
  protected:

@@ -6,8 +6,10 @@
 #include <array>
 #include <forward_list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "framework/core/geometry.h"
 
@@ -22,6 +24,11 @@ struct zPrPoint {
 
 enum zFntFam { zFamDontCare = 0x00, zFamRoman = 0x10, zFamSwiss = 0x20, zFamModern = 0x30 };
 enum zFntPitch { zPitchDefault = 0, zPitchFixed = 1, zPitchVariable = 2 };
+// Kept in the record and of no account on this screen: the server has one way to draw a font.
+enum zChSet : unsigned char { zChSetAnsi = 0, zChSetSymbol = 2, zChSetOem = 255 };
+enum zOutPrec : unsigned char { zOutPrecDefault = 0 };
+enum zClipPrec : unsigned char { zClipPrecDefault = 0 };
+enum zOutQual : unsigned char { zOutQualDefault = 0, zOutQualDraft = 1, zOutQualProof = 2 };
 
 // The description of a font, a storable record with the fields of a LOGFONT.
 class zFontSpec {
@@ -33,9 +40,9 @@ class zFontSpec {
   // `size` in tenths of a point; a negative height is taken as its absolute value when used.
   zFontSpec(const char* face, zDimension size, int weight = weightNormal,
             zFntFam family = zFamDontCare, zFntPitch pitch = zPitchDefault, int styleBits = 0,
-            int escapement = 0, int orientation = 0, unsigned char charSet = 0,
-            unsigned char outPrecision = 0, unsigned char clipPrecision = 0,
-            unsigned char quality = 0);
+            int escapement = 0, int orientation = 0, zChSet charSet = zChSetAnsi,
+            zOutPrec outPrecision = zOutPrecDefault, zClipPrec clipPrecision = zClipPrecDefault,
+            zOutQual quality = zOutQualDefault);
 
   const std::string& faceName() const { return faceName_; }
   // Tenths of a point, above 0 unless no size was given.
@@ -76,16 +83,28 @@ class ziRealFont {
   XmFontList list;
 };
 
+// A face and a size of it that can be had, in tenths of a point.
+struct ziFontEntry {
+  std::string face;
+  int tenths;
+};
+
 // The fonts in use, found by description.
 class ziFontDict {
  public:
   // Loads the font if it is new. The nearest size of the family stands in for a size that the
-  // server lacks, and `fixed` for a family that it lacks. Never null.
+  // server lacks, the plain style for a bold or italic that the family lacks, and `fixed` for a
+  // family that the server lacks. Never null.
   const ziRealFont* find(const zFontSpec& spec);
+
+  // What a person can choose from: the fonts in use, then those of the server, which is asked once.
+  // A face whose sizes are free is listed with the usual ones.
+  std::vector<ziFontEntry> entries();
 
  private:
   static constexpr std::size_t buckets = 25;
   std::array<std::forward_list<std::unique_ptr<ziRealFont>>, buckets> fonts_;
+  std::optional<std::vector<ziFontEntry>> serverFonts_;
 };
 
 // Made with the application shell.

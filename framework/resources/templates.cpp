@@ -45,9 +45,25 @@ constexpr zControlRecord unavailableControls[] = {
     end,
 };
 
+constexpr zControlRecord fontControls[] = {
+    {zAtomStatic, nullptr, zNoId, "&Font:", label, 7, 7, 33, 14},
+    {zAtomComboBox, nullptr, 100, nullptr, tab | 3, 44, 7, 120, 14},
+    {zAtomStatic, nullptr, zNoId, "Si&ze:", label, 7, 25, 33, 14},
+    {zAtomComboBox, nullptr, 101, nullptr, tab | 2, 44, 25, 50, 14},
+    {zAtomStatic, nullptr, zNoId, "Style:", label, 7, 43, 33, 14},
+    {0, "zCheckBox3dClass", 102, "&Bold", tab | 3, 44, 43, 50, 14},
+    {0, "zCheckBox3dClass", 103, "&Italic", tab | 3, 98, 43, 50, 14},
+    {zAtomStatic, nullptr, zNoId, "Sample:", label, 7, 61, 33, 14},
+    {zAtomStatic, nullptr, 104, nullptr, label, 44, 61, 169, 40},
+    {zAtomButton, nullptr, 1, "&Ok", tab | 1, 109, 108, 50, 15},
+    {zAtomButton, nullptr, 2, "&Cancel", tab, 163, 108, 50, 15},
+    end,
+};
+
 constexpr zDialogTemplate dialogs[] = {
     {mainControls, 564, 0x80CE0000, 0, 0, 286, 158, "Ondrelle v2.20", helv, points, zNoMenu},
     {unavailableControls, 584, 0x80C80080, 0, 0, 200, 54, nullptr, helv, points, zNoMenu},
+    {fontControls, 600, 0x80C80080, 0, 0, 220, 130, "Select Font", helv, points, zNoMenu},
 };
 
 std::vector<std::span<const zDialogTemplate>>& tables() {
