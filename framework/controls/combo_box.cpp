@@ -210,7 +210,7 @@ int zComboBoxBase::selection(int index) {
   setCurrent(index);
   marked_ = index;
   showSelected(index);
-  showText(text(index));
+  showText(itemText(index));
   return index;
 }
 
@@ -228,7 +228,7 @@ void zComboBoxBase::showText(const std::string& shown) {
 }
 
 std::string zComboBoxBase::getText() const {
-  if (selection() >= 0) return text(selection());
+  if (selection() >= 0) return itemText(selection());
   return textWidget() ? ziTextOf(textWidget()) : "";
 }
 
@@ -342,7 +342,7 @@ void zComboBoxBase::changedCB(Widget, XtPointer link, XtPointer callData) {
   if (combo->semaphores_ & settingText) return;
   const int before = combo->selection();
   const bool leftItem =
-      before >= 0 && ziTextOf(combo->textWidget()) != ziSafeText(combo->text(before));
+      before >= 0 && ziTextOf(combo->textWidget()) != ziSafeText(combo->itemText(before));
   if (leftItem) {
     combo->setCurrent(-1);
     combo->marked_ = -1;

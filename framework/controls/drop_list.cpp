@@ -11,12 +11,16 @@ namespace {
 
 constexpr int border = 1;
 
-// There is one list open at a time; meanwhile the button events of the program come by here.
-ziDropList* openList = nullptr;
-XtEventDispatchProc passPress = nullptr;
-XtEventDispatchProc passRelease = nullptr;
+ziDropList* openList = nullptr;  // there is at most one
 
 }  // namespace
+
+ziDropList::Filter ziDropList::filters[] = {
+    {ButtonPress, pressed, nullptr},
+    {ButtonRelease, released, nullptr},
+    {FocusIn, focusMoved, nullptr},
+    {FocusOut, focusMoved, nullptr},
+};
 
 ziDropList::ziDropList(Widget owner)
     : owner_(owner),
@@ -38,8 +42,7 @@ void ziDropList::open(zDimension size, zAction<void> dismissed) {
   open_ = true;
   openList = this;
   grabPointer(XtWindow(shell_), true);
-  passPress = XtSetEventDispatcher(app->display(), ButtonPress, pressed);
-  passRelease = XtSetEventDispatcher(app->display(), ButtonRelease, released);
+  for (Filter& f : filters) f.next = XtSetEventDispatcher(app->display(), f.type, f.filter);
 }
 
 void ziDropList::close() {
@@ -53,8 +56,13 @@ void ziDropList::forget() {
   if (!open_) return;
   open_ = false;
   openList = nullptr;
-  XtSetEventDispatcher(app->display(), ButtonPress, passPress);
-  XtSetEventDispatcher(app->display(), ButtonRelease, passRelease);
+  for (const Filter& f : filters) XtSetEventDispatcher(app->display(), f.type, f.next);
+}
+
+Boolean ziDropList::passOn(XEvent* event) {
+  const auto* f = std::find_if(std::begin(filters), std::end(filters),
+                               [event](const Filter& known) { return known.type == event->type; });
+  return f->next(event);
 }
 
 zRect ziDropList::place(zDimension size) const {
@@ -90,19 +98,23 @@ bool ziDropList::isOwners(Window window) const {
 // own grab. One outside closes the list, and is then what it would have been anyway.
 Boolean ziDropList::pressed(XEvent* event) {
   const XButtonEvent& press = event->xbutton;
-  const XtEventDispatchProc pass = passPress;
   ziDropList& list = *openList;
   if (list.place_.contains({press.x_root, press.y_root})) {
     list.grabPointer(press.window, false);
-    return pass(event);
+    return passOn(event);
   }
   const bool ends = press.window == XtWindow(list.shell_) || list.isOwners(press.window);
   list.dismissed_();
-  return ends ? True : pass(event);
+  return ends ? True : passOn(event);
 }
 
 Boolean ziDropList::released(XEvent* event) {
-  const XtEventDispatchProc pass = passRelease;
   openList->grabPointer(XtWindow(openList->shell_), true);
-  return pass(event);
+  return passOn(event);
+}
+
+// A scroll bar takes the keyboard while its slider is held; the focus stays where it is.
+Boolean ziDropList::focusMoved(XEvent* event) {
+  const int mode = event->xfocus.mode;
+  return mode == NotifyGrab || mode == NotifyUngrab ? True : passOn(event);
 }

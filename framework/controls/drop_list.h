@@ -38,6 +38,16 @@ class ziDropList {
   bool isOwners(Window window) const;
   static Boolean pressed(XEvent* event);
   static Boolean released(XEvent* event);
+  static Boolean focusMoved(XEvent* event);
+
+  // An event type that comes by here while a list is open, and where it goes on to.
+  struct Filter {
+    int type;
+    XtEventDispatchProc filter;
+    XtEventDispatchProc next;
+  };
+  static Filter filters[];
+  static Boolean passOn(XEvent* event);
 
   Widget owner_;
   Widget shell_;

@@ -12,6 +12,10 @@
 
 namespace {
 
+constexpr unsigned wheelUp = 4;
+constexpr unsigned wheelDown = 5;
+constexpr int itemsPerNotch = 3;
+
 std::string upperCase(std::string text) {
   for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
   return text;
@@ -47,8 +51,20 @@ Widget ziItemControl::createList(Widget parent, const char* name, unsigned char 
   list_ = XmCreateScrolledList(parent, const_cast<char*>(name), args.data(),
                                static_cast<Cardinal>(args.size()));
   XtManageChild(list_);
+  XtAddEventHandler(list_, ButtonPressMask, False, wheelCB, nullptr);
   setListColors(zWhite);
   return list_;
+}
+
+void ziItemControl::wheelCB(Widget list, XtPointer, XEvent* event, Boolean*) {
+  const unsigned button = event->xbutton.button;
+  if (button != wheelUp && button != wheelDown) return;
+  int top = 0, seen = 0, all = 0;
+  XtVaGetValues(list, XmNtopItemPosition, &top, XmNvisibleItemCount, &seen, XmNitemCount, &all,
+                nullptr);
+  const int last = std::max(all - seen + 1, 1);
+  const int wanted = top + (button == wheelUp ? -itemsPerNotch : itemsPerNotch);
+  if (all > 0) XmListSetPos(list, std::clamp(wanted, 1, last));
 }
 
 void ziItemControl::setListColors(const zColor& background) const {
@@ -139,12 +155,12 @@ void ziItemControl::clear() {
   currentRemoved();
 }
 
-std::string ziItemControl::text(int index) const {
+std::string ziItemControl::itemText(int index) const {
   return hasItem(index) ? texts_[static_cast<std::size_t>(index)] : "";
 }
 
 int ziItemControl::getItem(std::string& item, int index) const {
-  item = text(index);
+  item = itemText(index);
   return hasItem(index) ? 1 : 0;
 }
 

@@ -44,9 +44,10 @@ class ziItemControl : public zControl {
   void reset() { clear(); }
 
   int count() const { return static_cast<int>(texts_.size()); }
-  // The text of an item; empty, and 0, for an index that is none.
+  // The text of an item; empty, and 0, for an index that is none. Not const: text(0) would be
+  // ambiguous.
   using zControl::text;
-  std::string text(int index) const;
+  std::string text(int index) { return itemText(index); }
   int getItem(std::string& text, int index) const;
 
   // The index selected, -1 for none. Setting tells nobody; it returns the index selected by it, -1
@@ -63,7 +64,7 @@ class ziItemControl : public zControl {
   void setToDefault() override;
   int storeData() override;
 
-  std::string getText() const override { return text(selection()); }
+  std::string getText() const override { return itemText(selection()); }
   void setFont(std::shared_ptr<zFont> font, int redraw) override;
 
   template <class T, class M>
@@ -98,6 +99,7 @@ class ziItemControl : public zControl {
   // Gives the list and its scroll bars their colours.
   void setListColors(const zColor& background) const;
 
+  std::string itemText(int index) const;
   bool hasItem(int index) const { return index >= 0 && index < count(); }
   // What list() shows as selected, alone and in view; nobody is told. -1 for nothing.
   void showSelected(int index);
@@ -117,6 +119,7 @@ class ziItemControl : public zControl {
 
  private:
   void append(const std::vector<std::string>& texts);
+  static void wheelCB(Widget widget, XtPointer link, XEvent* event, Boolean* goOn);
 
   std::vector<std::string> texts_;
   int index_ = -1;

@@ -2,6 +2,8 @@
 
 #include <Xm/List.h>
 
+#include <algorithm>
+
 zMultiList::zMultiList(zWindow* parent, int id, Store store, unsigned long bindingStyle)
     : zListBoxBase(parent, id, {}, bindingStyle), rows_(store) {
   if (!list() || (styleValue() & zListBoxStyle::multiple)) return;
@@ -25,24 +27,30 @@ int zMultiList::getSelection(std::vector<std::string>* texts) const {
   std::vector<int> rows;
   getSelection(&rows);
   texts->clear();
-  for (const int row : rows) texts->push_back(text(row));
+  for (const int row : rows) texts->push_back(itemText(row));
   return static_cast<int>(texts->size());
 }
 
 void zMultiList::setSelection(const std::vector<int>& rows) {
   if (!list()) return;
-  std::vector<int> positions;
+  // Under any other policy each row selected would put out the one before.
+  unsigned char policy = XmMULTIPLE_SELECT;
+  XtVaGetValues(list(), XmNselectionPolicy, &policy, nullptr);
+  XtVaSetValues(list(), XmNselectionPolicy, XmMULTIPLE_SELECT, nullptr);
+  setCurrent(-1);
+  XmListDeselectAllItems(list());
   for (const int row : rows) {
-    if (hasItem(row)) positions.push_back(row + 1);
+    if (!hasItem(row) || XmListPosSelected(list(), row + 1)) continue;
+    XmListSelectPos(list(), row + 1, False);
+    setCurrent(row);
   }
-  setCurrent(positions.empty() ? -1 : positions.front() - 1);
-  XtVaSetValues(list(), XmNselectedPositions, positions.data(), XmNselectedPositionCount,
-                static_cast<int>(positions.size()), nullptr);
+  XtVaSetValues(list(), XmNselectionPolicy, policy, nullptr);
 }
 
 void zMultiList::setSelection(const std::vector<std::string>& texts) {
-  std::vector<int> rows;
-  for (const std::string& text : texts) rows.push_back(findExact(text));
+  std::vector<int> rows(texts.size());
+  std::transform(texts.begin(), texts.end(), rows.begin(),
+                 [this](const std::string& text) { return findExact(text); });
   setSelection(rows);
 }
 

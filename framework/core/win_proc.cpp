@@ -183,10 +183,7 @@ void ziWinProc(Widget, XtPointer link, XEvent* event, Boolean*) {
 void ConfigTopProc(Widget, XtPointer link, XEvent* event, Boolean*) {
   zWindow* window = static_cast<ziControlCB*>(link)->window;
   if (!window) return;
-  const bool grabbed = event->type == FocusOut && event->xfocus.mode == NotifyGrab;
-  if (event->type == ConfigureNotify || (event->type == FocusOut && !grabbed)) {
-    zComboBoxBase::ziResetPopup();
-  }
+  if (event->type == ConfigureNotify || event->type == FocusOut) zComboBoxBase::ziResetPopup();
   zWindowWatch watch(window);
   if (event->type == FocusIn || event->type == FocusOut) {
     zActivateEvt activation;

@@ -22,6 +22,13 @@ constexpr unsigned subtypeMask = 0xF;
 constexpr unsigned classStyleMask = 0xFFFF;
 constexpr unsigned defaultButtonStyle = 1;
 
+template <class Control>
+zChildWin* created(zWindow* window, zSizer* place, const zControlRecord& r) {
+  auto* control = new Control(window, place, r.style, r.title, static_cast<int>(r.id));
+  control->create();
+  return control;
+}
+
 bool isOrdinaryParent(const zWindow* parent) {
   return parent && parent != app->rootWindow();
 }
@@ -140,16 +147,13 @@ void ziDialogReader::createBaseTypes(const zControlRecord& r, zSizer* place) {
       made = new zStaticText(window_, place, r.style, r.title, id);
       break;
     case zAtomListBox:
-      made = new zListBoxBase(window_, place, r.style, r.title, id);
-      made->create();
+      made = created<zListBoxBase>(window_, place, r);
       break;
     case zAtomScrollBar:
-      made = new zScrollBarBase(window_, place, r.style, r.title, id);
-      made->create();
+      made = created<zScrollBarBase>(window_, place, r);
       break;
     case zAtomComboBox:
-      made = new zComboBoxBase(window_, place, r.style, r.title, id);
-      made->create();
+      made = created<zComboBoxBase>(window_, place, r);
       break;
     default:
       if (const zControlType* type = r.className ? zControlType::find(r.className) : nullptr) {
