@@ -7,8 +7,8 @@
 #include "framework/controls/pane.h"
 #include "framework/drawing/bitmap.h"
 
-// A pane that acts as a control. Its place comes from its sizer, which lays the children out before
-// it moves the pane; what the server tells later of the size is no news.
+// A pane that acts as a control. Its place comes from its sizer, which lays the children out, too;
+// what the server tells later of the size is no news.
 class zPaneControl : public zPane {
  public:
   zPaneControl(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id);

@@ -93,16 +93,17 @@ void zSizer::reqArea(zReqGeom& request) const {
   request.affinity = affinity_;
 }
 
+// The window goes first: its children's windows can't grow beyond it.
 void zSizer::setArea(const zRect& rect, int noMove) {
   position_ = rect.pos();
   dimension_ = rect.dimension();
-  const zRect inside = window_ ? zRect(zPoint{}, dimension_) : rect;
-  if (!children_.empty()) {
-    (layout_ ? layout_ : &normalLayout)->allocate(inside, layoutFlags_, children_);
-  }
   const bool movesWindow = ownerType_ == ownerWindow || ownerType_ == ownerControl;
   if (movesWindow && !noMove && affinity_ != zGravNone && window_ && window_->getWidget()) {
     window_->vmove(rect.left, rect.top, rect.width(), rect.height());
+  }
+  const zRect inside = window_ ? zRect(zPoint{}, dimension_) : rect;
+  if (!children_.empty()) {
+    (layout_ ? layout_ : &normalLayout)->allocate(inside, layoutFlags_, children_);
   }
 }
 

@@ -68,7 +68,7 @@ class zSizer {
   // Lays out `rect`, or with null the sizer's own place without moving its window.
   virtual void update(const zRect* rect);
   virtual void reqArea(zReqGeom& request) const;
-  // Stores the place, lays the children out in it and, unless `noMove`, moves the window there.
+  // Stores the place, moves the window there, unless `noMove`, and lays the children out in it.
   virtual void setArea(const zRect& rect, int noMove);
   virtual bool asType(int type) const;
 
