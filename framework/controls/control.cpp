@@ -121,16 +121,15 @@ bool zControl::keyReachesHandlers(const zControl* control, const zKeyEvt& key) {
 void zControl::keyPressedOrReleased(XEvent* event, Boolean* goOn) {
   const bool pressed = event->type == KeyPress;
   zKeyEvt key = ziKeyEvent(this, event, pressed ? zMsgKeyDown : zMsgKeyUp);
-  if (!keyReachesHandlers(this, key)) return;
+  if (pressed && !keyReachesHandlers(this, key)) return;
   zWindowWatch watch(this);
   if (doCommandHandler(&key, this) || watch.gone()) return;
-  if (pressed && ziPressMnemonic(this, key)) {
+  if (!pressed) return;
+  if (ziPressMnemonic(this, key)) {
     *goOn = False;
     return;
   }
-  if (!pressed || leavesTypingToWidget() || ziCharactersOf(event).empty()) return;
-  key.message = zMsgChar;
-  ch(&key);
+  ziKeyLeft(this, key, !leavesTypingToWidget());
 }
 
 void zControl::crossed(XEvent* event) {
@@ -147,7 +146,7 @@ void zControl::mousePressed(XEvent* event, Boolean* goOn) {
   click.message = zMsgButtonDown;
   zWindowWatch watch(this);
   ziPreMouseClick(&click);
-  const bool handled = eventMapHas(zMsgButtonDown) && doHandler(&click, this);
+  const bool handled = !watch.gone() && eventMapHas(zMsgButtonDown) && doHandler(&click, this);
   if (handled || watch.gone() || mouseButtonDown(&click)) {
     *goOn = False;
   } else if (click.isButton(1) || click.isButton(2)) {

@@ -13,6 +13,10 @@ std::string ziCharactersOf(XEvent* event, KeySym* keysym = nullptr);
 // A key event for `window`: parm1 is the character, or the keysym of a key without one.
 zKeyEvt ziKeyEvent(zWindow* window, XEvent* event, unsigned message);
 
+// What is left of a key press that the handlers of `window` did not take: `ch` where the window is
+// `typed` into by itself and a character came of it, and then the frame.
+void ziKeyLeft(zWindow* window, zKeyEvt& key, bool typed);
+
 // A made-up size event: resolveSize, then size.
 void ziSendSize(zWindow* window, const zDimension& size);
 

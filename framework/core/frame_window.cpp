@@ -91,6 +91,10 @@ void zFrameWin::applyIcon() {
   XtVaSetValues(shell_, XmNiconPixmap, icon_->pixmap(), XmNiconMask, icon_->mask(), nullptr);
 }
 
+int zFrameWin::keyLeft(zKeyEvt*) {
+  return 0;
+}
+
 void zFrameWin::focusFirst() {
   zWindow* wanted = std::exchange(firstFocus_, nullptr);
   if (wanted && isAncestorOf(wanted)) wanted->setFocus();
@@ -102,7 +106,8 @@ int zFrameWin::showSet(int how) {
   const Window window = XtWindow(shell_);
   switch (how) {
     case 0:
-      XtUnmapWidget(shell_);
+      // Also a window that the window manager is only about to map.
+      XWithdrawWindow(display, window, DefaultScreen(display));
       break;
     case 2:
     case 6:

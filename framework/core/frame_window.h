@@ -30,6 +30,9 @@ class zFrameWin : public zWindow {
   void getExterior(zRect& rect) const override;
   void vmove(int x, int y, int width, int height) override;
 
+  // A key that no handler and no virtual of the window with the focus took. Non-zero: taken.
+  virtual int keyLeft(zKeyEvt* key);
+
   // The window in this frame that gets the focus once the frame is on the screen.
   void focusWhenShown(zWindow* window) { firstFocus_ = window; }
 

@@ -16,13 +16,9 @@ Time lastPressTime = 0;
 
 void keyPressed(zWindow* window, XEvent* event) {
   zKeyEvt key = ziKeyEvent(window, event, zMsgKeyDown);
-  const std::string characters = ziCharactersOf(event);
   zWindowWatch watch(window);
   if (doCommandHandler(&key, window) || watch.gone() || ziPressMnemonic(window, key)) return;
-  if (characters.empty()) return;
-  key.parm1 = static_cast<unsigned char>(characters[0]);
-  key.message = zMsgChar;
-  window->ch(&key);
+  ziKeyLeft(window, key, true);
 }
 
 void buttonPressed(zWindow* window, XEvent* event) {
@@ -33,8 +29,9 @@ void buttonPressed(zWindow* window, XEvent* event) {
   click.window = window;
   click.message = lastPressTime && since < multiClick ? zMsgDoubleClick : zMsgButtonDown;
   lastPressTime = event->xbutton.time;
-  window->ziPreMouseClick(&click);
   zWindowWatch watch(window);
+  window->ziPreMouseClick(&click);
+  if (watch.gone()) return;
   const bool handled = window->eventMapHas(zMsgButtonDown) && doHandler(&click, window);
   if (!handled && !watch.gone()) window->mouseButtonDown(&click);
 }
@@ -64,9 +61,7 @@ void configured(zWindow* window, XEvent* event) {
 }
 
 void unmapped(zWindow* window) {
-  if (!window->deleteOnClose()) return;
-  window->setDestroyed();
-  delete window;
+  if (window->deleteOnClose()) delete window;
 }
 
 }  // namespace
@@ -90,6 +85,18 @@ zKeyEvt ziKeyEvent(zWindow* window, XEvent* event, unsigned message) {
                                  : static_cast<long>(static_cast<unsigned char>(characters[0]));
   key.window = window;
   return key;
+}
+
+void ziKeyLeft(zWindow* window, zKeyEvt& key, bool typed) {
+  zWindowWatch watch(window);
+  const std::string characters = ziCharactersOf(key.xEvent);
+  if (typed && !characters.empty()) {
+    zKeyEvt character = key;
+    character.message = zMsgChar;
+    character.parm1 = static_cast<unsigned char>(characters[0]);
+    if (window->ch(&character) || watch.gone()) return;
+  }
+  if (zFrameWin* frame = window->frame()) frame->keyLeft(&key);
 }
 
 void ziSendSize(zWindow* window, const zDimension& size) {

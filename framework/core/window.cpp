@@ -173,6 +173,7 @@ int zWindow::size(zSizeEvt* event) {
 }
 
 int zWindow::resolveSize(zSizeEvt* event) {
+  sizer()->dimension(event->size());
   for (zWindow* kid : kids_) kid->sizer()->resize(kid, event);
   const zRect area(sizer()->pos(), event->size());
   sizer()->update(&area);
@@ -247,7 +248,7 @@ void zWindow::ziBackgroundColor(const zColor& color) {
 void zWindow::setFont(std::shared_ptr<zFont> font, int redraw) {
   if (font == font_) return;
   font_ = std::move(font);
-  if (mainWidget_ && font_) ziSetFontList(mainWidget_, font_->fontList());
+  if (mainWidget_ && font_) ziSetFontList(drawnWidget(), font_->fontList());
   for (zWindow* kid : kids_) kid->setFont(font_, redraw);
 }
 
@@ -400,6 +401,7 @@ unsigned zWindow::eventMapBit(unsigned message) {
     case zMsgMouseMove:
       return 0x20;
     case zMsgButtonDown:
+    case zMsgDoubleClick:  // a press of the button, too
       return 0x100;
     case zMsgButtonUp:
       return 0x10;

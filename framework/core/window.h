@@ -179,9 +179,8 @@ class zWindow : public zEvH {
   void setWidgets(Widget main, Widget scrolled);
   void setShown(bool shown) { shown_ = shown; }
   ziControlCB* link() const { return link_.get(); }
-  // Put an event procedure or a Motif callback on a widget of this window, with link() for its
-  // data. unlisten() takes all of them off: a widget outlives the window while the toolkit has it
-  // in hand, and goes on getting events in a nested loop.
+  // Put a procedure on a widget of this window, with link() for its data. unlisten() takes all off:
+  // a widget that the toolkit is about to destroy goes on getting events in nested loops.
   void listen(Widget widget, EventMask mask, XtEventHandler procedure,
               XtListPosition position = XtListTail);
   void addCallback(Widget widget, const char* list, XtCallbackProc procedure);
@@ -234,8 +233,7 @@ class zWindow : public zEvH {
   std::vector<std::function<void()>> takeOff_;  // what unlisten() does
 };
 
-// Takes a window and all below it off their widgets, which must still be there, and marks them as
-// destroyed.
+// Takes a window and all below it off their widgets, which are still there, as destroyed.
 void zAppDoSetAllDestroyed(zWindow* window);
 
 // The event masks of the framework's procedures.

@@ -1,5 +1,6 @@
 #include "framework/dialogs/dialog_frame.h"
 
+#include <X11/keysym.h>
 #include <Xm/BulletinB.h>
 #include <Xm/DialogS.h>
 #include <Xm/MainW.h>
@@ -62,11 +63,14 @@ zDialogFrame::~zDialogFrame() {
   cancelPendingShow();
   if (ziActiveDialog == workArea_) ziActiveDialog = nullptr;
   if (isDestroyed()) return;  // the shell went with that of the dialog this one stood over
-  if (shell()) XmRemoveWMProtocolCallback(shell(), deleteWindowAtom(), closeCB, link());
   // The shell takes all widgets below it along, so the children must not touch theirs.
-  unlisten();
   zAppDoSetAllDestroyed(this);
   if (!isRoot() && shell()) XtDestroyWidget(shell());
+}
+
+void zDialogFrame::unlisten() {
+  zFrameWin::unlisten();
+  if (shell()) XmRemoveWMProtocolCallback(shell(), deleteWindowAtom(), closeCB, link());
 }
 
 void zDialogFrame::init() {}
@@ -80,10 +84,10 @@ void zDialogFrame::createShell() {
   }
   const MwmHints hints = mwmHints();
   const Widget over = parent() ? getTopShell(parent()->getWidget()) : nullptr;
-  setShell(XtVaCreatePopupShell(
-      title().c_str(), xmDialogShellWidgetClass, over ? over : app->toplevel(), XmNdeleteResponse,
-      XmDO_NOTHING, XmNtitle, title().c_str(), XmNmwmDecorations, hints.decorations,
-      XmNmwmFunctions, hints.functions, XmNx, sizer()->pos().x, XmNy, sizer()->pos().y, nullptr));
+  setShell(XtVaCreatePopupShell(title().c_str(), xmDialogShellWidgetClass,
+                                over ? over : app->toplevel(), XmNdeleteResponse, XmDO_NOTHING,
+                                XmNtitle, title().c_str(), XmNmwmDecorations, hints.decorations,
+                                XmNmwmFunctions, hints.functions, nullptr));
 }
 
 int zDialogFrame::create() {
@@ -118,7 +122,8 @@ void zDialogFrame::createBoards(Widget shell) {
   };
   outerBoard_ = board(outerParent);
   workArea_ = board(outerBoard_);
-  XtVaSetValues(shell, XmNwidth, width, XmNheight, height, nullptr);
+  XtVaSetValues(shell, XmNx, sizer()->pos().x, XmNy, sizer()->pos().y, XmNwidth, width, XmNheight,
+                height, nullptr);
   XtManageChild(workArea_);
   if (isRoot()) XtManageChild(outerBoard_);
   setWidgets(workArea_, nullptr);
@@ -245,8 +250,27 @@ void zDialogFrame::modal(int style) {
       style == zModalSystem ? MWM_INPUT_SYSTEM_MODAL : MWM_INPUT_PRIMARY_APPLICATION_MODAL,
       nullptr);
   showTimeout();
-  while (!finished_ && zAppKeepRunning) XtAppProcessEvent(app->context(), XtIMAll);
+  zWindowWatch watch(this);
+  while (!watch.gone() && !finished_ && zAppKeepRunning) {
+    XtAppProcessEvent(app->context(), XtIMAll);
+  }
   --ziModalSem;
+}
+
+int zDialogFrame::keyLeft(zKeyEvt* key) {
+  const bool plain = !key->shift() && !key->ctrl() && !key->alt();
+  return plain && key->code() == XK_Escape && pressButton(cancelId);
+}
+
+int zDialogFrame::pressButton(int id) {
+  zWindow* button = get(id);
+  if (!button || !button->isEnabled() || !button->isShown()) return 0;
+  zEvent click(zMsgCommand);
+  click.codeWord = zNtfClicked;
+  click.parm1 = id;
+  click.window = button;
+  doCommandHandler(&click, this);
+  return 1;
 }
 
 void zDialogFrame::go() {
@@ -265,7 +289,7 @@ void zDialogFrame::shutdown() {
   cancelPendingShow();
   if (root) {
     if (XtIsRealized(shell())) XtUnmapWidget(shell());
-  } else {
+  } else if (shell()) {
     XtPopdown(shell());
   }
   setShown(false);

@@ -18,6 +18,8 @@ enum zModalStyle { zModalApplication = 0, zModalSystem = 1 };
 class zDialogFrame : public zFrameWin {
  public:
   static constexpr unsigned long showDelayMs = 300;
+  static constexpr int okId = 1;
+  static constexpr int cancelId = 2;
 
   // From template `id`, which gives the style and the title. With `noCreate` the widgets are left
   // to a later create().
@@ -38,6 +40,10 @@ class zDialogFrame : public zFrameWin {
   // Ends the dialog unless a handler of the close event or `kill` refuses. Closing the root window
   // ends the program's loops.
   virtual void shutdown();
+  // Escape is a click on Cancel.
+  int keyLeft(zKeyEvt* key) override;
+  // As a click on the control `id`: tells its handlers. 0 when there is none that can be clicked.
+  int pressButton(int id);
   // Runs the application's main loop.
   void go();
 
@@ -78,6 +84,7 @@ class zDialogFrame : public zFrameWin {
   static void closeCB(Widget widget, XtPointer link, XtPointer callData);
   static void ziShowTimeout(XtPointer link, XtIntervalId*);
   void cancelPendingShow();
+  void unlisten() override;
 
   std::unique_ptr<ziDialogReader> reader_;
   bool finished_ = false;

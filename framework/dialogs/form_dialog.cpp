@@ -25,7 +25,9 @@ int zFormDialog::storeData() {
 }
 
 void zFormDialog::setControlsToDefault() {
-  for (zWindow* kid : kidslist()) static_cast<zChildWin*>(kid)->setToDefault();
+  for (zWindow* kid : kidslist()) {
+    if (kid->isA(zTypeChildWin)) static_cast<zChildWin*>(kid)->setToDefault();
+  }
 }
 
 int zFormDialog::endOk(zEvent*) {

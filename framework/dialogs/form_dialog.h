@@ -7,9 +7,6 @@ class zChildWin;
 
 class zFormDialog : public zDialogFrame {
  public:
-  static constexpr int okId = 1;
-  static constexpr int cancelId = 2;
-
   zFormDialog(zWindow* parent, const zResId& id, unsigned long style);
 
   // The first call puts endOk and endCancel on the controls 1 and 2.

@@ -2,6 +2,7 @@
 
 #include <X11/Shell.h>
 #include <Xm/MessageB.h>
+#include <Xm/MwmUtil.h>
 #include <Xm/Protocols.h>
 
 #include "framework/core/app.h"
@@ -100,6 +101,10 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   XmAddWMProtocolCallback(
       XtParent(box), XmInternAtom(app->display(), const_cast<char*>("WM_DELETE_WINDOW"), False),
       doClose, this);
+  // What it says fits, so there is nothing to gain by another size.
+  XtVaSetValues(XtParent(box), XmNmwmDecorations,
+                MWM_DECOR_BORDER | MWM_DECOR_TITLE | MWM_DECOR_MENU, XmNmwmFunctions,
+                MWM_FUNC_MOVE | MWM_FUNC_CLOSE, nullptr);
   XtAddCallback(box, XmNdestroyCallback, destroyedCB, this);
   XtManageChild(box);
   XtPopup(XtParent(box), XtGrabNone);

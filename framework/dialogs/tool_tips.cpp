@@ -13,6 +13,7 @@ namespace {
 constexpr unsigned long pollMs = 250;
 constexpr unsigned long startMs = 400;
 constexpr unsigned long goAwayMs = 5500;
+constexpr Time neighbourMs = 250;   // from one control to the next, for its tip to come at once
 constexpr zPoint tipOffset{3, 16};  // from the pointer, pixels
 constexpr int abovePointer = 4;     // pixels between the pointer and a tip above it
 constexpr zColor tipBackground{255, 255, 225};
@@ -146,9 +147,12 @@ int zToolTipCtrl::doDown(zMouseClickEvt*) {
   return 0;
 }
 
-void zToolTipCtrl::doLeave(Widget widget, XtPointer self, XEvent*, Boolean*) {
+void zToolTipCtrl::doLeave(Widget widget, XtPointer self, XEvent* event, Boolean*) {
   auto* tips = static_cast<zToolTipCtrl*>(self);
-  if (tips->current_ && tips->current_->widget == widget) tips->hideTip();
+  if (!tips->current_ || tips->current_->widget != widget) return;
+  const bool wasShown = tips->isTipShown();
+  tips->hideTip();
+  if (wasShown) tips->tipLeftAt_ = event->xcrossing.time;
 }
 
 int zToolTipCtrl::doMove(zMouseMoveEvt* event) {
@@ -160,15 +164,15 @@ int zToolTipCtrl::doMove(zMouseMoveEvt* event) {
   Listed* listed = find(event->window->drawnWidget());
   if (!listed) return 0;
   if (listed != current_) {
-    enter(listed, event->pos());
+    enter(listed, event->pos(), motion.time);
   } else if (start_) {
     tipPosition_ = event->pos();
   }
   return 0;
 }
 
-void zToolTipCtrl::enter(Listed* listed, zPoint at) {
-  const bool wasShown = isTipShown();
+void zToolTipCtrl::enter(Listed* listed, zPoint at, Time when) {
+  const bool wasShown = isTipShown() || (tipLeftAt_ && when - tipLeftAt_ < neighbourMs);
   hideTip();
   current_ = listed;
   text_ = tipOf(listed->window);
@@ -237,6 +241,7 @@ void zToolTipCtrl::showTip() {
 
 void zToolTipCtrl::hideTip() {
   if (helper_) helper_->hide();
+  tipLeftAt_ = 0;
   current_ = nullptr;
   text_.clear();
   poll_.reset();

@@ -51,8 +51,9 @@ class ziToolHelper {
   bool shown_ = false;
 };
 
-// Shows tips for the controls added to it: 400 ms after the pointer has come to one, until it
-// leaves, a button is pressed, or 5.5 s have gone by. A control that is deleted is forgotten.
+// Shows tips for the controls added to it: 400 ms after the pointer has come to one, or at once
+// when it comes from one that shows its tip; until it leaves, a button is pressed, or 5.5 s have
+// gone by. A control that is deleted is forgotten.
 class zToolTipCtrl : public zEvH {
  public:
   // For controls below `window`; tips come only while its frame is active.
@@ -77,7 +78,7 @@ class zToolTipCtrl : public zEvH {
   int doDown(zMouseClickEvt* event);
   int doMove(zMouseMoveEvt* event);
   static void doLeave(Widget widget, XtPointer self, XEvent*, Boolean*);
-  void enter(Listed* listed, zPoint at);
+  void enter(Listed* listed, zPoint at, Time when);
   void startT();
   void smallT();
   void goAwayT();
@@ -98,6 +99,7 @@ class zToolTipCtrl : public zEvH {
   const Listed* lastShown_ = nullptr;
   zPoint tipPosition_;        // in the current window
   zPoint lastMouse_{-1, -1};  // on the screen
+  Time tipLeftAt_ = 0;        // when the pointer left a control that showed its tip
   std::string text_;
   std::unique_ptr<ziToolHelper> helper_;
   bool active_ = true;

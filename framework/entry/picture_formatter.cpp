@@ -121,8 +121,9 @@ int zPictFormatter::getChars(std::string& text, unsigned long style) {
 int zPictFormatter::checkChars(const std::string& text, zRange& sel) {
   const auto fail = [&](std::ptrdiff_t at) { sel.start = sel.end = static_cast<int>(at); };
   if (text.empty()) {
+    if (has(mayBeEmpty)) return 1;
     fail(0);
-    return has(mayBeEmpty) ? 1 : 0;
+    return 0;
   }
   if (!load(text)) {
     fail(std::ssize(map_));

@@ -70,6 +70,7 @@ void zSizer::replace(zSizer* other) {
   other->position_ = position_;
   other->dimension_ = dimension_;
   other->ownerType_ = ownerType_;
+  while (!children_.empty()) other->append(children_.front());
   if (window_) window_->setSizer(other);  // deletes this
 }
 

@@ -88,7 +88,8 @@ class zSizer {
   void append(zSizer* child);
   const zSizerDlist& children() const { return children_; }
 
-  // Puts `other` in this one's place in the tree and in its window, which deletes this one.
+  // Puts `other` in this one's place in the tree, over its children too, and in its window, which
+  // deletes this one.
   void replace(zSizer* other);
 
   zWindow* owned() const { return window_; }

@@ -7,6 +7,8 @@
 #include "framework/drawing/font.h"
 #include "framework/table/table_model.h"
 
+class zFormatter;
+
 // How a cell is drawn. The table starts each cell with its own settings and lets every attribute
 // that covers the cell change them, in the model's order.
 struct ziTableEnv {
@@ -15,7 +17,12 @@ struct ziTableEnv {
   std::shared_ptr<const zFont> font;
   unsigned alignment = 0;  // bits of ZTEXT_ALIGN
   bool readOnly = false;
+  zFormatter* formatter = nullptr;  // shows the text its way
 };
+
+// What `formatter` makes of a text that is typed into an empty field; the text itself when it
+// refuses the beginning or leaves it to the field.
+std::string ziFormatted(zFormatter& formatter, const std::string& text);
 
 // Each attribute adds its bit, so that the two go together. Without a bit the text stands at the
 // left, or at the top.
@@ -81,4 +88,44 @@ class zTableTextAlignmentAttr : public zTableAttr {
 
  private:
   ZTEXT_ALIGN alignment_;
+};
+
+// Shows the text of its cells as the formatter, which must outlive the attribute, would. The cells
+// keep their text as it is.
+class zTableFormatterAttr : public zTableAttr {
+ public:
+  zTableFormatterAttr(zFormatter* formatter, const zTableRegion& region)
+      : zTableAttr(region), formatter_(formatter) {}
+  void setup(ziTableEnv& env) const override;
+
+ private:
+  zFormatter* formatter_;
+};
+
+// The same for numbers, by a formatter of numbers.
+class zTableNumFormatterAttr : public zTableFormatterAttr {
+ public:
+  zTableNumFormatterAttr(const zTableRegion& region, zFormatter* formatter)
+      : zTableFormatterAttr(formatter, region) {}
+};
+
+// A cell whose text goes through a formatter, which must outlive it: it holds what comes out.
+class zTableFmtNumCell : public zTableTextCell {
+ public:
+  zTableFmtNumCell(zFormatter& formatter, const char* text)
+      : zTableTextCell(ziFormatted(formatter, text ? text : "").c_str()), formatter_(formatter) {}
+  void setText(const char* text) override;
+
+ protected:
+  zFormatter& formatter() const { return formatter_; }
+
+ private:
+  zFormatter& formatter_;
+};
+
+// The same, and a new text that the formatter does not find complete is not taken.
+class zTableValidatedFmtTextCell : public zTableFmtNumCell {
+ public:
+  using zTableFmtNumCell::zTableFmtNumCell;
+  void setText(const char* text) override;
 };

@@ -99,7 +99,9 @@ void zTable::drawCell(zDisplay& display, const zTableLoc& cell, const zRect& are
   display.line({place.right - 1, place.top}, {place.right - 1, place.bottom - 1});
   display.line({place.left, place.bottom - 1}, {place.right - 1, place.bottom - 1});
   const zTableCell* content = model()->getCell(cell);
-  if (content && !inside.isEmpty()) drawText(display, content->getText(), env, inside, area);
+  if (!content || inside.isEmpty()) return;
+  const std::string text = content->getText();
+  drawText(display, env.formatter ? ziFormatted(*env.formatter, text) : text, env, inside, area);
 }
 
 void zTable::drawText(zDisplay& display, const std::string& text, const ziTableEnv& env,

@@ -1,11 +1,19 @@
 // Dialogs out of templates, their controls, modal loops and message boxes, driven by keys and
 // mouse.
-#include <X11/keysym.h>
-#include <gtest/gtest.h>
+#include <gtest/gtest.h>  // first: X has macros with names that it uses
 
+#include "framework/dialogs/form_dialog.h"
+
+#include <X11/Xatom.h>
+#include <X11/keysym.h>
+#include <Xm/MwmUtil.h>
+
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <utility>
 
+#include "framework/controls/bitmap_button.h"
 #include "framework/controls/button.h"
 #include "framework/controls/edit.h"
 #include "framework/controls/group_box.h"
@@ -13,9 +21,10 @@
 #include "framework/core/app.h"
 #include "framework/core/timer.h"
 #include "framework/dialogs/dialog_reader.h"
-#include "framework/dialogs/form_dialog.h"
 #include "framework/dialogs/message.h"
+#include "framework/layout/dialog_unit.h"
 #include "framework/resources/resources.h"
+#include "framework/table/table.h"
 #include "tests/support/x_driver.h"
 
 namespace {
@@ -23,6 +32,29 @@ namespace {
 constexpr int plainForm = 584;
 constexpr int editId = 20;
 constexpr unsigned long editStyle = zStyleTabStop;
+
+// A dialog with a control of every kind.
+constexpr int everyForm = 9500;
+constexpr int multiLineId = 21, readOnlyId = 22, tableId = 102, pictureId = 103;
+constexpr std::uint32_t unknownClassId = 104;
+constexpr zControlRecord everyControl[] = {
+    {zAtomEdit, nullptr, editId, "text", 0x50010000, 11, 20, 60, 14},
+    {zAtomEdit, nullptr, multiLineId, "a", 0x50010004, 11, 36, 60, 24},
+    {zAtomEdit, nullptr, readOnlyId, "fixed", 0x50010800, 11, 62, 60, 14},
+    {zAtomButton, nullptr, 10, "Group", 0x50000007, 7, 7, 68, 76},
+    {zAtomStatic, nullptr, 100, "&Label:", 0x50000000, 82, 9, 60, 9},
+    {zAtomStatic, nullptr, 101, nullptr, 0x50000007, 82, 20, 60, 5},
+    {0, "zTable", tableId, nullptr, 0x50010000, 82, 28, 80, 50},
+    {0, "zNoSuchClass", unknownClassId, "none", 0x50010000, 1, 1, 1, 1},
+    {0, "zBmpBtnClass", pictureId, "Picture", 0x50010800, 7, 90, 50, 15},
+    {zAtomButton, nullptr, 1, "OK", 0x50010000, 62, 90, 50, 15},
+    {zAtomButton, nullptr, 2, "Cancel", 0x50010000, 117, 90, 50, 15},
+    {0, nullptr, 0, nullptr, 0, 0, 0, 0, 0},
+};
+constexpr zDialogTemplate testDialogs[] = {
+    {everyControl, everyForm, 0x90C80080, 31, 17, 170, 112, "Every", "Helv", 12, zNoMenu},
+};
+const bool dialogsKnown = (ziAddDialogs(testDialogs), true);
 
 // Runs what it is given once the main loop has come round.
 class Later : public zEvH {
@@ -61,6 +93,43 @@ class TestForm : public zFormDialog {
   int refusesToClose = 0;
 };
 
+// The form with every control; some have an action, which is told as a handler is.
+class EveryForm : public zFormDialog {
+ public:
+  explicit EveryForm(zWindow* parent = app->rootWindow())
+      : zFormDialog(parent, zResId(everyForm), 0) {
+    edit = new zEditLine(this, editId, &stored);
+    new zEditBase(this, multiLineId);
+    new zEditBase(this, readOnlyId);
+    new zGroupBox(this, 10);
+    new zStaticText(this, 100);
+    new zStaticText(this, 101);
+    table = new zTable(this, tableId, &model);
+    new zBitmapButton(this, pictureId);
+    ok = new zPushButton(this, okId);
+    cancel = new zPushButton(this, cancelId);
+    edit->setNotifyChange(this, &EveryForm::acts);
+    ok->setNotifyClicked(this, &EveryForm::acts);
+    table->setupNotification(this, &EveryForm::acts, zMsgDoubleClick);
+  }
+  int acts(zNotifyEvt*) {
+    const auto now = action;  // it may delete the form
+    return now ? now() : 0;
+  }
+  int notes(zEvent* event) { return heard.push_back(event->message), 0; }
+  void childFocusChange(zWindow* from, zWindow* to) override { focusMoves.push_back({from, to}); }
+  bool isFinished() const { return finished(); }
+
+  std::function<int()> action;
+  std::vector<unsigned> heard;
+  std::vector<std::pair<zWindow*, zWindow*>> focusMoves;
+  std::string stored = "before";
+  zTableSmallModel model{3, 4};
+  zEditLine* edit;
+  zTable* table;
+  zPushButton *ok, *cancel;
+};
+
 TEST(Template, GivesStyleCaptionSizeAndControls) {
   TestForm form;
   EXPECT_EQ(form.ctrlId(), plainForm);
@@ -70,6 +139,35 @@ TEST(Template, GivesStyleCaptionSizeAndControls) {
   EXPECT_EQ(form.kidslist().size(), 3U);
   form.text->text("changed");
   EXPECT_EQ(form.text->getText(), "changed");
+}
+
+// What belongs to fonts; run with several sets of them.
+TEST(FontSets, ControlsStandWhereTheArithmeticPutsThem) {
+  EveryForm below;
+  EveryForm form(&below);
+  const zFont& font = *form.getFont();
+  const int sample = font.textWidth(zDialogUnit::averageSample);
+  const auto measure = [&](int x, int y) {
+    return zDimension{zDialogUnit::acrossPixels(x, sample),
+                      zDialogUnit::downPixels(y, font.height())};
+  };
+  ASSERT_TRUE(x_driver::show(below));
+  ASSERT_TRUE(x_driver::show(form));
+  EXPECT_EQ(form.sizer()->dimension(), measure(170, 112));
+  const zDimension at = measure(31, 17);
+  EXPECT_EQ(below.sizer()->pos(), (zPoint{at.width, at.height}));  // on the screen
+  EXPECT_EQ(form.sizer()->pos(), (zPoint{2 * at.width, 2 * at.height}));
+  auto kid = form.kidslist().begin();
+  for (const zControlRecord& r : everyControl) {
+    if (r.id == unknownClassId || !r.w) continue;
+    const zDimension place = measure(r.x, r.y);
+    EXPECT_EQ((*kid)->ctrlId(), static_cast<int>(r.id));
+    EXPECT_EQ((*kid)->sizer()->rect(), zRect(zPoint(place.width, place.height), measure(r.w, r.h)));
+    ++kid;
+  }
+  EXPECT_EQ(kid, form.kidslist().end());
+  ASSERT_NE(__zAppXfs, nullptr);  // if there is no better one, it is `fixed`
+  EXPECT_GT(zDialogUnit(4, 8, static_cast<zDisplay*>(nullptr)).x(), 3);
 }
 
 TEST(Template, UnknownNumbersAreHarmless) {
@@ -150,6 +248,173 @@ TEST(Form, MayRefuseToClose) {
   EXPECT_EQ(form.closeRequests, 2);
 }
 
+TEST(Form, EscapePressesCancelWhereverTheFocusIs) {
+  for (const int focused : {editId, multiLineId, readOnlyId, +tableId, pictureId, 1}) {
+    EveryForm form;
+    form.show(1);
+    ASSERT_TRUE(x_driver::show(form));
+    ASSERT_TRUE(x_driver::giveFocus(*form.get(focused)));
+    form.edit->text("typed");
+    form.cancel->disable();
+    x_driver::key(XK_Escape);
+    form.cancel->enable();
+    form.cancel->show(0);
+    x_driver::key(XK_Escape);
+    EXPECT_FALSE(form.isFinished()) << focused;
+    form.cancel->show(1);
+    x_driver::key(XK_Escape);
+    EXPECT_TRUE(form.isFinished()) << focused;
+    EXPECT_EQ(form.completed(), 0);
+    EXPECT_EQ(form.stored, "before");
+  }
+}
+
+// The toolkit goes on delivering events to widgets that it is about to destroy.
+TEST(Form, AHandlerMayCloseItsDialogAndOpenAMessageBox) {
+  const std::function<void(EveryForm&)> triggers[] = {
+      [](EveryForm& form) {
+        x_driver::click(*form.ok, {5, 5});
+      },
+      [](EveryForm& form) {
+        x_driver::giveFocus(*form.edit);
+        x_driver::key(XK_a);
+      },
+      [](EveryForm& form) {
+        x_driver::doubleClick(*form.table, {20, 40});
+      },
+  };
+  for (const auto& trigger : triggers) {
+    auto* form = new EveryForm;
+    const zWindowWatch watch(form);
+    form->deleteOnClose(1);
+    int answer = 0;
+    form->action = [&] {
+      const Window table = XtWindow(form->table->getWidget());
+      const Window edit = XtWindow(form->edit->getWidget());
+      form->shutdown();
+      EXPECT_TRUE(watch.gone());
+      for (const Window dying : {table, edit}) {
+        XMapWindow(app->display(), dying);
+        XClearArea(app->display(), dying, 0, 0, 0, 0, True);
+        XUnmapWindow(app->display(), dying);
+      }
+      Later answers(400, [] { x_driver::key(XK_Return); });
+      answer = zMessage(app->rootWindow(), "text", "caption", 0x30).result();
+      return 1;
+    };
+    Later acts(600, [&] { trigger(*form); });
+    form->modal();
+    EXPECT_EQ(answer, 1);
+  }
+}
+
+// Whether the window manager has the dialog on the screen.
+bool isMapped(const zDialogFrame& dialog) {
+  XWindowAttributes now{};
+  x_driver::settle();
+  return XtIsRealized(dialog.shell()) &&
+         XGetWindowAttributes(app->display(), XtWindow(dialog.shell()), &now) &&
+         now.map_state == IsViewable;
+}
+
+TEST(Form, IsShownAfterAMomentHiddenAndShownAgain) {
+  using Clock = std::chrono::steady_clock;
+  EveryForm form;
+  const auto start = Clock::now();
+  form.show(1);
+  ASSERT_TRUE(x_driver::waitUntil([&] { return isMapped(form); }));
+  EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(295));
+  const struct {
+    int how;
+    bool mapped;
+  } steps[] = {{0, false}, {1, true}, {2, false}, {5, true}, {3, true}};
+  for (const auto& step : steps) {
+    form.show(step.how);
+    EXPECT_TRUE(x_driver::waitUntil([&] { return isMapped(form) == step.mapped; })) << step.how;
+  }
+  constexpr int frame = 50;  // at most so much goes to the window manager's
+  EXPECT_TRUE(x_driver::waitUntil([&] { return form.sizer()->width() > __scrPixWidth - frame; }));
+  EveryForm ready;
+  ready.show(0);
+  EXPECT_TRUE(XtIsRealized(ready.shell()));
+  EXPECT_FALSE(x_driver::waitUntil([&] { return isMapped(ready); }, 500));
+}
+
+TEST(Form, IsCentredButStaysOnTheScreen) {
+  EveryForm below;
+  EveryForm form(&below);
+  const auto leftAndTop = [&](int relative) {
+    form.centerWindow(relative);
+    return form.sizer()->pos();
+  };
+  const int width = form.sizer()->width(), height = form.sizer()->height();
+  const zPoint onScreen{(__scrPixWidth - width) / 2, (__scrPixHeight - height) / 2};
+  EXPECT_EQ(leftAndTop(0), onScreen);
+  below.vmove(200, 100, width + 21, height + 10);
+  EXPECT_EQ(leftAndTop(1), (zPoint{210, 105}));
+  below.vmove(__scrPixWidth - 9, __scrPixHeight - 9, width, height);
+  EXPECT_EQ(leftAndTop(1), (zPoint{__scrPixWidth - width, __scrPixHeight - height}));
+  below.vmove(0, 0, 20, 20);
+  EXPECT_EQ(leftAndTop(1), (zPoint{0, 0}));
+}
+
+// What windows hear of the focus, of the mouse and of keys.
+TEST(Events, FocusIsMovedOnceAndTheAncestorsHearOfIt) {
+  using Clock = std::chrono::steady_clock;
+  EveryForm form;
+  ASSERT_TRUE(x_driver::show(form));
+  ASSERT_TRUE(x_driver::giveFocus(*form.ok));
+  form.focusMoves.clear();
+  form.edit->setFocus();
+  x_driver::waitUntil([] { return false; }, 100);
+  const auto second = Clock::now();
+  form.edit->setFocus();
+  ASSERT_TRUE(x_driver::waitUntil([&] { return x_driver::hasFocus(*form.edit); }));
+  EXPECT_GE(Clock::now() - second, std::chrono::milliseconds(149));
+  ASSERT_EQ(form.focusMoves.size(), 1U);
+  EXPECT_EQ(form.focusMoves[0].first, form.ok);
+  EXPECT_EQ(form.focusMoves[0].second, form.edit);
+}
+
+TEST(Events, ReachHandlersOnlyWhereTheyBelong) {
+  using Messages = std::vector<unsigned>;
+  EveryForm form;
+  auto* label = static_cast<zChildWin*>(form.get(100));
+  const auto heard = [&] { return std::exchange(form.heard, {}); };
+  ASSERT_TRUE(x_driver::show(form));
+  for (const auto message : {zMsgButtonDown, zMsgDoubleClick}) {
+    form.table->setupNotification(&form, &EveryForm::notes, message);
+    label->setupNotification(&form, &EveryForm::notes, message);
+  }
+  label->setHandler(&form, &EveryForm::notes, zMsgMouseMove);  // nobody has asked for moves
+  x_driver::doubleClick(*form.table, {20, 40});
+  EXPECT_EQ(heard(), (Messages{zMsgButtonDown, zMsgDoubleClick}));
+  x_driver::doubleClick(*label, {5, 5});
+  EXPECT_EQ(heard(), (Messages{zMsgButtonDown, zMsgButtonDown}));
+  for (const auto message : {zMsgKeyDown, zMsgKeyUp}) {
+    form.edit->setHandler(&form, &EveryForm::notes, message);
+  }
+  ASSERT_TRUE(x_driver::giveFocus(*form.edit));
+  x_driver::key(XK_a);  // goes into the text
+  EXPECT_EQ(heard(), (Messages{zMsgKeyUp}));
+  x_driver::key(XK_F5);
+  EXPECT_EQ(heard(), (Messages{zMsgKeyDown, zMsgKeyUp}));
+}
+
+TEST(Events, AWindowOutOfSightIsDeletedWhenItIsMarkedSo) {
+  EveryForm form;
+  auto* pane = new zPane(&form, nullptr, 0, nullptr, 70);
+  pane->create();
+  pane->show(1);
+  EXPECT_EQ(pane->sizer()->dimension(), (zDimension{10, 10}));  // nobody gave it one
+  ASSERT_TRUE(x_driver::show(form));
+  const zWindowWatch watch(pane);
+  pane->deleteOnClose(1);
+  pane->show(0);
+  XUnmapWindow(app->display(), XtWindow(pane->getWidget()));
+  EXPECT_TRUE(x_driver::waitUntil([&] { return watch.gone(); }));
+}
+
 TEST(Form, TakesTheDialogsOverItAlong) {
   auto below = std::make_unique<TestForm>();
   below->show(1);
@@ -161,6 +426,29 @@ TEST(Form, TakesTheDialogsOverItAlong) {
   below.reset();
   EXPECT_TRUE(watch.gone());
   x_driver::settle();
+}
+
+// A timer whose handler opens a message box, during which it is deleted.
+struct Interrupted : zEvH {
+  void tick() {
+    if (++ticks != 5) return;
+    Later deletes(50, [this] { timer.reset(); });
+    Later answers(400, [] { x_driver::key(XK_Return); });
+    answer = zMessage(app->rootWindow(), "text", "caption", 0x30).result();
+  }
+  int ticks = 0;
+  int answer = 0;
+  std::unique_ptr<zTimer> timer = std::make_unique<zTimer>(this, &Interrupted::tick, 5);
+};
+
+TEST(Modal, TimersFireBehindItAndMayGoWhileTheirHandlerRuns) {
+  TestForm form;
+  Interrupted interrupted;
+  Later ends(700, [&] { form.shutdown(); });
+  form.modal();
+  EXPECT_GE(interrupted.ticks, 5);
+  EXPECT_EQ(interrupted.answer, 1);
+  EXPECT_EQ(interrupted.timer, nullptr);
 }
 
 TEST(Modal, LoopsNestAndTimersRunOnTopOfThem) {
@@ -181,13 +469,24 @@ TEST(Modal, LoopsNestAndTimersRunOnTopOfThem) {
   EXPECT_EQ(ziModalSem, 0);
 }
 
+struct Refuser : zEvH {
+  int refuses(zEvent*) { return 1; }
+};
+
 TEST(Modal, EveryLoopEndsWhenTheProgramDoes) {
   TestForm outer, inner;
+  Refuser refuser;
   Later opens(30, [&] { inner.modal(); });
-  Later ends(100, [] { zAppKeepRunning = 0; });
+  Later ends(100, [&] {
+    app->rootWindow()->setHandler(&refuser, &Refuser::refuses, zMsgClose);
+    app->quit();
+    EXPECT_EQ(zAppKeepRunning, 1);
+    app->rootWindow()->removeHandler(&refuser, &Refuser::refuses, zMsgClose);
+    app->quit();
+  });
   outer.modal();
   EXPECT_FALSE(outer.isFinished());
-  zAppKeepRunning = 1;
+  EXPECT_EQ(std::exchange(zAppKeepRunning, 1), 0);
 }
 
 TEST(Modal, TheWindowBehindTakesNoInput) {
@@ -276,7 +575,7 @@ TEST(Message, ReturnsTheAnswerOfEachType) {
   const BoxCase cases[] = {
       {0x30, {XK_Return}, 1},        {0x21, {XK_Return}, 1}, {0x21, {XK_Escape}, 2},
       {0x32, {XK_Tab, XK_space}, 3}, {0x23, {XK_Return}, 6}, {0x24, {XK_Escape}, 7},
-      {0x45, {XK_Return}, 4},        {0x0F, {XK_Escape}, 2},
+      {0x45, {XK_Return}, 4},        {0x0F, {XK_Escape}, 2}, {0x00, {XK_Escape}, 1},
   };
   for (const BoxCase& c : cases) {
     Later answers(400, [&] {
@@ -289,6 +588,43 @@ TEST(Message, ReturnsTheAnswerOfEachType) {
     } else {
       EXPECT_EQ(box.result(), c.result) << std::hex << c.style;
     }
+  }
+}
+
+Widget shownBox() {
+  return XtNameToWidget(app->toplevel(), "MessageBox_popup");
+}
+
+// The window manager's part: its close command, and what it may do with a box.
+TEST(Message, ClosingItIsItsSecondAnswer) {
+  const struct {
+    unsigned style;
+    int result, modality;
+  } cases[] = {{0x00, 1, MWM_INPUT_PRIMARY_APPLICATION_MODAL},
+               {0x2021, 2, MWM_INPUT_FULL_APPLICATION_MODAL},
+               {0x1042, 4, MWM_INPUT_SYSTEM_MODAL},
+               {0x0F13, 7, MWM_INPUT_PRIMARY_APPLICATION_MODAL},
+               {0x34, 7, MWM_INPUT_PRIMARY_APPLICATION_MODAL},
+               {0x05, 2, MWM_INPUT_PRIMARY_APPLICATION_MODAL}};
+  for (const auto& c : cases) {
+    int modality = 0, decorations = 0;
+    Later closes(200, [&] {
+      Display* display = app->display();
+      const Widget box = shownBox();
+      XtVaGetValues(box, XmNmwmInputMode, &modality, XmNmwmDecorations, &decorations, nullptr);
+      XClientMessageEvent close{};
+      close.type = ClientMessage;
+      close.window = XtWindow(box);
+      close.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
+      close.format = 32;
+      close.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
+      XSendEvent(display, close.window, False, 0, reinterpret_cast<XEvent*>(&close));
+    });
+    const zMessage box(app->rootWindow(), "text", "caption", c.style);
+    EXPECT_EQ(box.result(), c.result) << std::hex << c.style;
+    EXPECT_EQ(modality, c.modality) << std::hex << c.style;
+    EXPECT_FALSE(decorations & (MWM_DECOR_RESIZEH | MWM_DECOR_ALL));
+    EXPECT_EQ(shownBox(), nullptr);
   }
 }
 

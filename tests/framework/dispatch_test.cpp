@@ -199,12 +199,21 @@ class Ticker : public zEvH {
   std::unique_ptr<zTimer> timer;
 };
 
+struct Killer : zEvH {
+  explicit Killer(Ticker& ticker) : victim(ticker) {}
+  void tick() { victim.timer.reset(); }
+  Ticker& victim;
+  zOneShotTimer timer{this, &Killer::tick, 15};
+};
+
 TEST(Timers, RepeatUntilTheyAreDeletedEvenByTheirOwnHandler) {
-  Ticker every, once, stopped;
+  Ticker every, once, stopped, killed;
   every.timer = std::make_unique<zTimer>(&every, &Ticker::tick, 5);
   once.timer = std::make_unique<zOneShotTimer>(&once, &Ticker::tick, 5);
   stopped.timer = std::make_unique<zTimer>(&stopped, &Ticker::tick, 20);
   stopped.timer.reset();
+  killed.timer = std::make_unique<zTimer>(&killed, &Ticker::tick, 30);
+  const Killer killer(killed);
   ASSERT_TRUE(x_driver::waitUntil([&] { return every.ticks >= 5; }));
   EXPECT_EQ(once.ticks, 1);
   EXPECT_EQ(once.timer->getID(), 0U);
@@ -213,6 +222,7 @@ TEST(Timers, RepeatUntilTheyAreDeletedEvenByTheirOwnHandler) {
   const int before = every.ticks;
   x_driver::waitUntil([] { return false; }, 40);
   EXPECT_EQ(every.ticks, before + 1);
+  EXPECT_EQ(killed.ticks, 0);
 
   once.deletes = true;
   once.timer = std::make_unique<zOneShotTimer>(&once, &Ticker::tick, 1);

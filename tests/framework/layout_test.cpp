@@ -84,12 +84,14 @@ TEST_F(Sizers, AnswerWithWhatTheyWereBuiltWith) {
 TEST_F(Sizers, ReplaceKeepsThePlaceInTheOrder) {
   zSizer* first = strip(zGravTop, 10);
   strip(zGravTop, 20);
+  auto* below = new zGravSizer(zGravBottom, 4, first);
   auto* other = new zGravSizer(zGravTop, 15, nullptr);
   first->replace(other);
   ASSERT_EQ(root_.children().front(), other);
   delete first;
   layOut(100, 100);
   EXPECT_EQ(other->rect(), zRect(0, 0, 100, 15));
+  EXPECT_EQ(below->rect(), zRect(0, 11, 100, 15));
   EXPECT_EQ(root_.children().back()->rect(), zRect(0, 15, 100, 35));
 }
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "framework/entry/formatter.h"
 #include "framework/table/table_attr.h"
 #include "framework/table/table_axis.h"
 
@@ -108,6 +109,32 @@ TEST(TableModel, ManyChangesAreOneUpdate) {
   model.setDimension(5, 1);
   EXPECT_EQ(other.resets, 1);
   EXPECT_EQ(other.node->model(), nullptr);
+}
+
+// Puts a dollar in front, and refuses a text that has one.
+struct Dollars : zFormatter {
+  Dollars() : zFormatter(0) {}
+  int addChars(std::string& text, const char* chars, int count, zRange&) override {
+    if (chars[0] == '$') return refused;
+    text = "$" + std::string(chars, static_cast<std::size_t>(count));
+    return rewritten;
+  }
+  int checkChars(const std::string& text, zRange&) override { return text.size() > 1; }
+};
+
+TEST(TableModel, CellsMayShowAndHoldWhatAFormatterMakesOfTheirText) {
+  Dollars dollars;
+  ziTableEnv env;
+  zTableNumFormatterAttr(zTableRegion({1, 1}), &dollars).setup(env);
+  ASSERT_EQ(env.formatter, &dollars);
+  EXPECT_EQ(ziFormatted(*env.formatter, "12") + ziFormatted(*env.formatter, "$3"), "$12$3");
+  zTableFmtNumCell number(dollars, "1");
+  zTableValidatedFmtTextCell checked(dollars, "1");
+  for (zTableCell* cell : {static_cast<zTableCell*>(&number), static_cast<zTableCell*>(&checked)}) {
+    cell->setText("2");
+    cell->setText("");
+  }
+  EXPECT_EQ(number.getText() + checked.getText(), "$$2");
 }
 
 TEST(TableAxis, FindsPlacesAmongSizesOfItsOwnAndDefaults) {

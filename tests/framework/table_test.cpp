@@ -5,6 +5,8 @@
 
 #include <X11/keysym.h>
 
+#include <utility>
+
 #include "framework/controls/button.h"
 #include "framework/core/app.h"
 #include "framework/dialogs/control_types.h"
@@ -42,6 +44,21 @@ struct Listener : zEvH {
   int selectionChanges = 0;
 };
 
+// Notes the parts that it draws.
+struct WatchedTable : zTable {
+  using zTable::zTable;
+  void draw(zDrawEvt* event) override {
+    drawn.push_back(event->area);
+    zTable::draw(event);
+  }
+  // The parts since the last time.
+  std::vector<zRect> drawnNow() {
+    x_driver::settle();
+    return std::exchange(drawn, {});
+  }
+  std::vector<zRect> drawn;
+};
+
 // A table of 3 columns in room for 6 rows and all columns, adopted as a dialog does it.
 class TableTest : public testing::Test {
  protected:
@@ -55,7 +72,7 @@ class TableTest : public testing::Test {
     generic = type->buildNew(&dialog, place, childStyle, "", tableId);
     generic->show(1);
     widget = generic->getWidget();
-    table = new zTable(&dialog, tableId, &model);
+    table = new WatchedTable(&dialog, tableId, &model);
     table->setLabelType(zTLabelRows, zTLabelNone);
     table->setLabelSize({0, labelHeight});
     table->setColWidth(1, 3, colWidth);
@@ -75,13 +92,18 @@ class TableTest : public testing::Test {
                       "Table", 0};
   zWindow* generic = nullptr;
   Widget widget = nullptr;
-  zTable* table = nullptr;
+  WatchedTable* table = nullptr;
   Listener heard;
 };
 
 class LongTableTest : public TableTest {
  protected:
-  LongTableTest() : TableTest(50) {}
+  explicit LongTableTest(unsigned long rows = 50) : TableTest(rows) {}
+};
+
+class HugeTableTest : public LongTableTest {
+ protected:
+  HugeTableTest() : LongTableTest(900) {}
 };
 
 TEST_F(TableTest, AnAdoptedTableWorksOnTheGenericOnesWidgets) {
@@ -246,6 +268,50 @@ TEST_F(LongTableTest, DrawsOnlyWhatChangedAndIsSeen) {
   EXPECT_EQ(x_driver::pixelAt(*table, {3, labelHeight + rowHeight + 3}), zWhite);
   table->update();
   EXPECT_EQ(x_driver::pixelAt(*table, {3, labelHeight + rowHeight + 3}), red);
+}
+
+TEST_F(HugeTableTest, DrawsNothingTwice) {
+  const auto fill = [&] {
+    for (unsigned long row = 1; row <= 900; ++row) {
+      for (unsigned long col = 1; col <= 3; ++col) model.textToCell({col, row}, "text");
+    }
+    model.updateAllViews();
+  };
+  using Parts = std::vector<zRect>;
+  const zRect cells(0, labelHeight, 3 * colWidth, labelHeight + rowsSeen * rowHeight);
+  table->drawnNow();
+  const unsigned long answered = XLastKnownRequestProcessed(app->display());
+  const unsigned long sent = x_driver::requestsSent();
+  fill();
+  EXPECT_EQ(x_driver::requestsSent(), sent + 1);  // asks the server for one expose event
+  EXPECT_EQ(XLastKnownRequestProcessed(app->display()), answered);
+  EXPECT_EQ(table->drawnNow(), Parts{cells});
+  model.updateAllViews();
+  model.textToCell({2, 500}, "not seen");
+  model.updateAllViews();
+  XClearArea(app->display(), XtWindow(widget), 0, 0, 0, 0, True);  // as if it had been covered
+  EXPECT_EQ(table->drawnNow(), Parts{});
+  model.textToCell({2, 3}, "seen");
+  model.addAttr(std::make_unique<zTableBackColorAttr>(red, zTableRegion({2, 3})));
+  model.updateAllViews();
+  EXPECT_EQ(table->drawnNow(), Parts{table->cellRect({2, 3})});
+
+  model.addAttr(std::make_unique<zTableBackColorAttr>(red, zTableRegion({1, 8})));
+  model.updateAllViews();
+  model.textToCell({2, 3}, "moves");  // changed, and not drawn yet when the table scrolls
+  model.updateAllViews();
+  table->setActiveCell({1, 8});  // two rows up
+  const Parts after = table->drawnNow();
+  for (const zRect& part : after) {
+    EXPECT_TRUE(part == table->cellRect({2, 3}) || part.top == labelHeight + 4 * rowHeight ||
+                part.intersection(cells).bottom <= labelHeight + rowHeight)
+        << part.left << ',' << part.top << ',' << part.right << ',' << part.bottom;
+  }
+  EXPECT_EQ(x_driver::pixelAt(*table, {colWidth + 3, labelHeight + 3}), red);
+  EXPECT_EQ(x_driver::pixelAt(*table, {6, labelHeight + 5 * rowHeight + 4}), red);
+  const int before = x_driver::countPixels(*table, cells, zBlack);
+  table->setDirty(nullptr, 0);
+  EXPECT_EQ(x_driver::countPixels(*table, cells, zBlack), before);
 }
 
 TEST_F(TableTest, LabelsWithoutATextInTheBlockStay) {

@@ -83,6 +83,20 @@ TEST_F(ToolTips, ComeAfterAMomentAndGoWithThePointer) {
   x_driver::moveTo(*form, {5, 150});
 }
 
+TEST_F(ToolTips, ComeAtOnceOnTheNextControlAndOnlyWhileTheFrameIsActive) {
+  x_driver::moveTo(*panes[0], {10, 8});
+  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  const int first = tip()->left;
+  x_driver::moveTo(*panes[1], {10, 8});
+  ASSERT_TRUE(tip());
+  EXPECT_GT(tip()->left, first);
+  zDialogFrame other(app->rootWindow(), new zSizer(600, 500, 90, 90, nullptr), 0, "Other", 0);
+  ASSERT_TRUE(x_driver::show(other));
+  EXPECT_FALSE(tip());
+  x_driver::moveTo(*panes[0], {12, 8});
+  EXPECT_FALSE(waitUntil([] { return tip().has_value(); }, 600));
+}
+
 TEST_F(ToolTips, FallBackOnTheControlsOwnText) {
   x_driver::moveTo(*panes[2], {10, 8});
   EXPECT_TRUE(waitUntil([] { return tip().has_value(); }));
