@@ -3,6 +3,8 @@
 // same seed sends the same events as far as the program shows the same windows in time. Every
 // thousand events the program must answer a probe within some seconds. Prints what it did; the exit
 // status is 1 when the program stops answering or goes.
+#include <X11/extensions/XTest.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -90,6 +92,7 @@ int main(int argc, char** argv) {
   Display* const display = XOpenDisplay(nullptr);
   if (!display) return std::fprintf(stderr, "monkey: no display\n"), 2;
   XSetErrorHandler(ignoreError);
+  XTestGrabControl(display, True);  // also while the program has the server to itself
   const double start = secondsNow();
   Run run(display, options);
   const char* failure = run.play(options.events);

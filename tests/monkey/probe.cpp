@@ -25,32 +25,38 @@ Probe::Probe(Display* display)
 double Probe::answerTime(Window shell, double patience) {
   const double start = secondsNow();
   ask(shell);
-  return refuseRequest(start + patience) ? secondsNow() - start : -1;
+  return awaitRequest(start + patience) ? secondsNow() - start : -1;
 }
 
-void Probe::ask(Window shell) const {
+void Probe::ask(Window shell) {
   XEvent message{};
   message.xclient.type = ClientMessage;
   message.xclient.window = shell;
   message.xclient.message_type = protocol_;
   message.xclient.format = 32;
-  message.xclient.data.l[0] = CurrentTime;
+  message.xclient.data.l[0] = static_cast<long>(++question_);
   message.xclient.data.l[1] = static_cast<long>(selection_);
   message.xclient.data.l[3] = protocolVersion;
   XSendEvent(display_, shell, False, NoEventMask, &message);
 }
 
-// Waits for the request for the selection. False when it has not come by the deadline.
-bool Probe::refuseRequest(double deadline) const {
+// False when the request that answers the last question has not come by the deadline.
+bool Probe::awaitRequest(double deadline) const {
   XEvent event;
   XSync(display_, False);
-  while (!XCheckTypedWindowEvent(display_, owner_, SelectionRequest, &event)) {
+  for (;;) {
+    while (XCheckTypedWindowEvent(display_, owner_, SelectionRequest, &event)) {
+      refuse(event.xselectionrequest);
+      if (event.xselectionrequest.time == question_) return true;
+    }
     const double left = deadline - secondsNow();
     if (left <= 0) return false;
     pollfd connection{ConnectionNumber(display_), POLLIN, 0};
     poll(&connection, 1, static_cast<int>(left * 1000) + 1);
   }
-  const XSelectionRequestEvent& request = event.xselectionrequest;
+}
+
+void Probe::refuse(const XSelectionRequestEvent& request) const {
   XEvent refusal{};
   refusal.xselection.type = SelectionNotify;
   refusal.xselection.requestor = request.requestor;
@@ -59,5 +65,4 @@ bool Probe::refuseRequest(double deadline) const {
   refusal.xselection.property = None;
   refusal.xselection.time = request.time;
   XSendEvent(display_, request.requestor, False, NoEventMask, &refusal);
-  return true;
 }

@@ -15,13 +15,15 @@ class Probe {
   double answerTime(Window shell, double patience);
 
  private:
-  void ask(Window shell) const;
-  bool refuseRequest(double deadline) const;
+  void ask(Window shell);
+  bool awaitRequest(double deadline) const;
+  void refuse(const XSelectionRequestEvent& request) const;
 
   Display* display_;
   Window owner_;
   Atom protocol_;
   Atom selection_;
+  Time question_ = CurrentTime;  // the time that we give counts the questions, and comes back
 };
 
 // Seconds on a clock that only goes forward.
