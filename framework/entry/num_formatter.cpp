@@ -278,16 +278,11 @@ bool zNumFormatter::isPart(char c, bool pointSeen) const {
          (c == context_.currency && hasCurrency_) || (c != '\0' && (c == left_ || c == trailing_));
 }
 
-// A number that is required has a digit, and one in each place that demands it; any other has one
-// before its point.
+// A number that is required has a digit in every place; any other has one before its point.
 bool zNumFormatter::isFilled(const Number& number) const {
-  const std::size_t before = number.before(), after = number.after();
-  if (!has(required)) return before > 0 || !number.hasPoint();
-  const auto isWanted = [](const zNumPictStrEl& place) { return place.isWanted(); };
-  const auto firstDigit = before_.end() - static_cast<std::ptrdiff_t>(before);
-  const auto endOfDigits = after_.begin() + static_cast<std::ptrdiff_t>(after);
-  return before + after > 0 && std::none_of(before_.begin(), firstDigit, isWanted) &&
-         std::none_of(endOfDigits, after_.end(), isWanted);
+  const std::size_t before = number.before();
+  if (has(required)) return before == before_.size() && number.after() == after_.size();
+  return before > 0 || !number.hasPoint();
 }
 
 // The first digit that its place does not take, or npos. The number is in range.

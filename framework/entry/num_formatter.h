@@ -26,8 +26,6 @@ class zNumPictStrEl {
   bool isValid(char digit) const { return digit >= first_ && digit <= last_ && digit != except_; }
   // "0": a zero is shown where no digit is.
   bool isShown() const { return kind_ == '0'; }
-  // A number that is required has a digit here.
-  bool isWanted() const { return kind_ == '['; }
 
  private:
   char kind_;
