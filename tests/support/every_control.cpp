@@ -97,7 +97,7 @@ constexpr zControlRecord choiceControls[] = {
     {zAtomButton, nullptr, 109, "&Push", tab, 13, 94, 50, 15},
     {zAtomButton, nullptr, 110, "De&fault", tab | 1, 67, 94, 50, 15},
     {zAtomButton, nullptr, 111, "Disabled", tab | zStyleDisabled, 121, 94, 50, 15},
-    {zAtomPictureButton, nullptr, 112, "Cancel", tab, 175, 94, 50, 34},
+    {zAtomPictureButton, nullptr, 8, "Help", tab, 175, 94, 50, 34},
     {0, "zBmpBtnClass", 113, " Setup", picture, 13, 113, 50, 15},
     {0, "zBmpBtnClass", 114, "Toggle", pictureToggle, 67, 113, 50, 15},
     {0, "zBmpBtnClass", 115, " Global", picture | zStyleDisabled, 121, 113, 50, 15},
@@ -129,10 +129,10 @@ constexpr zControlRecord displayControls[] = {
     {zAtomStatic, nullptr, 102, "In the middle", centred, 13, 37, 120, 14},
     {0, "zStatTxt3dClass", 103, "At the right", atRight, 13, 55, 120, 14},
     {0, "zGroupBox3dClass", 104, "Panes", group, 146, 7, 133, 68},
-    {zAtomStatic, nullptr, 105, "#100", label | 3, 152, 19, 32, 32},
-    {0, "zBitmapPane", 106, "#515", label, 188, 19, 32, 32},
-    {0, "zTextPane", 107, "Two lines\nof text", label, 224, 19, 49, 32},
-    {zAtomScrollBar, nullptr, 108, nullptr, tab, 152, 57, 121, 10},
+    {zAtomStatic, nullptr, 105, "#100", label | 3, 152, 19, 18, 18},
+    {0, "zBitmapPane", 106, "#515", label, 174, 19, 99, 18},
+    {0, "zTextPane", 107, "Two lines\nof text", label, 152, 40, 121, 17},
+    {zAtomScrollBar, nullptr, 108, nullptr, tab, 152, 59, 121, 10},
     {0, "zGroupBox3dClass", 109, "Rectangles", group, 7, 82, 272, 63},
     {zAtomStatic, nullptr, 110, nullptr, label | 4, 13, 94, 40, 18},
     {zAtomStatic, nullptr, 111, nullptr, label | 5, 57, 94, 40, 18},
@@ -245,7 +245,7 @@ class ChoicePage : public EveryPage {
     new zPushButton(this, 109);
     new zDefPushButton(this, 110);
     new zPushButton(this, 111);
-    new zPushButton(this, 112);
+    new zPushButton(this, 8);
     adoptBitmapButton(this, 113, 500);
     adoptBitmapButton(this, 114, 502);
     adoptBitmapButton(this, 115, 503);
@@ -278,7 +278,7 @@ class ListPage : public EveryPage {
 
  private:
   void addTo(int id, const char* const* texts) {
-    static_cast<ziItemControl*>(get(id))->addCharStrings(texts);
+    for (; *texts; ++texts) static_cast<ziItemControl*>(get(id))->add(*texts);
   }
 
   int sorted_ = 2;
