@@ -47,7 +47,18 @@ void mapped(zWindow* window, XEvent* event) {
   if (window == app->rootWindow()) sizeFromServer(window, event);
 }
 
+// Whether a widget has got another size since the event was made. Taken over it would give the
+// widget back the size it had, and of two such events each would undo the other for ever.
+bool isOutdated(const XEvent* event) {
+  const Widget widget = XtWindowToWidget(event->xany.display, event->xconfigure.window);
+  if (!widget) return false;
+  Dimension width = 0, height = 0;
+  XtVaGetValues(widget, XmNwidth, &width, XmNheight, &height, nullptr);
+  return event->xconfigure.width != width || event->xconfigure.height != height;
+}
+
 void configured(zWindow* window, XEvent* event) {
+  if (isOutdated(event)) return;
   const bool realized = window->getWidget() && XtIsRealized(window->getWidget());
   if (realized) {
     zMoveEvt moved;

@@ -166,7 +166,7 @@ int zToolTipCtrl::doMove(zMouseMoveEvt* event) {
   if (listed != current_) {
     enter(listed, event->pos(), motion.time);
   } else if (start_) {
-    tipPosition_ = event->pos();
+    startAt(event->pos());
   }
   return 0;
 }
@@ -176,12 +176,17 @@ void zToolTipCtrl::enter(Listed* listed, zPoint at, Time when) {
   hideTip();
   current_ = listed;
   text_ = tipOf(listed->window);
-  tipPosition_ = at;
   if (wasShown) {
+    tipPosition_ = at;
     showTip();
   } else {
-    start_ = std::make_unique<zOneShotTimer>(this, &zToolTipCtrl::startT, startMs);
+    startAt(at);
   }
+}
+
+void zToolTipCtrl::startAt(zPoint at) {
+  tipPosition_ = at;
+  start_ = std::make_unique<zOneShotTimer>(this, &zToolTipCtrl::startT, startMs);
 }
 
 std::string zToolTipCtrl::tipOf(const zChildWin* window) const {

@@ -51,9 +51,9 @@ class ziToolHelper {
   bool shown_ = false;
 };
 
-// Shows tips for the controls added to it: 400 ms after the pointer has come to one, or at once
-// when it comes from one that shows its tip; until it leaves, a button is pressed, or 5.5 s have
-// gone by. A control that is deleted is forgotten.
+// Shows tips for the controls added to it: once the pointer has rested on one for 400 ms, or at
+// once when it comes from one that shows its tip; until it leaves, a button is pressed, or 5.5 s
+// have gone by. A control that is deleted is forgotten.
 class zToolTipCtrl : public zEvH {
  public:
   // For controls below `window`; tips come only while its frame is active.
@@ -79,6 +79,8 @@ class zToolTipCtrl : public zEvH {
   int doMove(zMouseMoveEvt* event);
   static void doLeave(Widget widget, XtPointer self, XEvent*, Boolean*);
   void enter(Listed* listed, zPoint at, Time when);
+  // The tip is to come up there, once the pointer has rested.
+  void startAt(zPoint at);
   void startT();
   void smallT();
   void goAwayT();

@@ -64,6 +64,10 @@ class Person : public zEvH {
 };
 
 TEST(FontForm, TakesAFontOrGivesItBack) {
+  const zFont bold("Helv", zPrPoint(0, -120), zFontSpec::weightBold);
+  if (bold.textWidth("Sample") == zFont("Helv", zPrPoint(0, -120)).textWidth("Sample")) {
+    GTEST_SKIP() << "the display has one font only";
+  }
   for (const Case& c : {Case{"500", 0, ok, "399", 3990},
                         {"abc", 0, ok, "abc", 0},
                         {"-7", 0, ok, "-7", 0},

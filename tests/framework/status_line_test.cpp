@@ -62,4 +62,19 @@ TEST_F(StatusLine, AlignsItems) {
   EXPECT_GT(inkIn({235, 0, 260, 20}), 0);
 }
 
+TEST_F(StatusLine, ComesToRestWhenTheFormIsResizedFast) {
+  for (int i = 0; i < 24; ++i) {
+    XResizeWindow(app->display(), XtWindow(form.shell()), static_cast<unsigned>(300 + i * 13 % 90),
+                  static_cast<unsigned>(100 + i * 11 % 60));
+    XFlush(app->display());
+    if (i % 3 == 0) x_driver::handlePending();
+  }
+  zRect inside;
+  EXPECT_TRUE(x_driver::waitUntil([&] { return line->getInterior(inside), inside.right == 329; }));
+  x_driver::settle();
+  const unsigned long before = x_driver::requestsSent();
+  x_driver::settle();
+  EXPECT_LT(x_driver::requestsSent(), before + 10);
+}
+
 }  // namespace

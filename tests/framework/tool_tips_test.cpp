@@ -63,6 +63,8 @@ struct ToolTips : testing::Test {
 };
 
 TEST_F(ToolTips, ComeAfterAMomentAndGoWithThePointer) {
+  x_driver::moveTo(*panes[0], {30, 30});
+  waitUntil([] { return false; }, 100);  // still on its way
   const auto start = Clock::now();
   x_driver::moveTo(*panes[0], {10, 8});
   ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
