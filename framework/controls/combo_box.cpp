@@ -63,7 +63,7 @@ int zComboBoxBase::create() {
   const Widget text = createText(form, height);
   adoptWidget(form, text);
   setColors(text, zWhite);
-  XtInsertEventHandler(text, KeyPressMask, False, textKeyCB, link(), XtListHead);
+  listen(text, KeyPressMask, textKeyCB, XtListHead);
   addCallback(text, XmNmodifyVerifyCallback, modifyCB);
   addCallback(text, XmNvalueChangedCallback, changedCB);
   addCallback(text, XmNfocusCallback, focusCB);

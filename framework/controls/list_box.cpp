@@ -38,7 +38,7 @@ int zListBoxBase::create() {
     addCallback(list, selected, lbSelCB);
   }
   addCallback(list, XmNdefaultActionCallback, lbDblClickCB);
-  XtAddEventHandler(list, FocusChangeMask, False, lbFocusCB, link());
+  listen(list, FocusChangeMask, lbFocusCB);
   return 1;
 }
 

@@ -98,9 +98,8 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   const Widget box = createBox(shell, text, title, style);
   labelButtons(box, style);
   if (parent && parent->getFont()) useFont(box, parent->getFont()->fontList());
-  XmAddWMProtocolCallback(
-      XtParent(box), XmInternAtom(app->display(), const_cast<char*>("WM_DELETE_WINDOW"), False),
-      doClose, this);
+  const Atom close = XmInternAtom(app->display(), const_cast<char*>("WM_DELETE_WINDOW"), False);
+  XmAddWMProtocolCallback(XtParent(box), close, doClose, this);
   // What it says fits, so there is nothing to gain by another size.
   XtVaSetValues(XtParent(box), XmNmwmDecorations,
                 MWM_DECOR_BORDER | MWM_DECOR_TITLE | MWM_DECOR_MENU, XmNmwmFunctions,
@@ -110,7 +109,10 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   XtPopup(XtParent(box), XtGrabNone);
   while (!done_ && !destroyed_) XtAppProcessEvent(app->context(), XtIMAll);
   if (destroyed_) return;
+  // A widget hears what the user did up to now until it is gone, which may be long after this.
   XtRemoveCallback(box, XmNdestroyCallback, destroyedCB, this);
+  for (const Slot& slot : slots) XtRemoveCallback(box, slot.callback, buttonCB, this);
+  XmRemoveWMProtocolCallback(XtParent(box), close, doClose, this);
   XtUnmanageChild(box);
   XtDestroyWidget(XtParent(box));
 }

@@ -590,4 +590,37 @@ TEST(Message, BlocksOnlyTheHandlerThatRaisedIt) {
   EXPECT_TRUE(form.isFinished());
 }
 
+// As when a second click was on its way to the box while the first one ended it.
+class AsksTwice : public zEvH {
+ public:
+  int ask(zNotifyEvt*) {
+    Widget first = nullptr;
+    Later answersFirst(300, [&] {
+      first = XmMessageBoxGetChild(XtNameToWidget(shownBox(), "MessageBox"), XmDIALOG_OK_BUTTON);
+      x_driver::key(XK_Return);
+    });
+    zMessage(app->rootWindow(), "first", "caption", 0x24);
+    Later clicksFirstAgain(300, [&] {
+      XEvent click{};
+      XtCallActionProc(first, "ArmAndActivate", &click, nullptr, 0);
+      Later answersSecond(100, [] { x_driver::key(XK_Escape); });
+      x_driver::waitUntil([] { return !shownBox(); }, 1000);
+    });
+    second = zMessage(app->rootWindow(), "second", "caption", 0x24).result();
+    return 0;
+  }
+  int second = 0;
+};
+
+TEST(Message, HearsNothingOfTheOneBefore) {
+  TestForm form;
+  AsksTwice asks;
+  form.ok->setNotifyClicked(&asks, &AsksTwice::ask);
+  form.show(1);
+  ASSERT_TRUE(x_driver::show(form));
+  x_driver::click(*form.ok, {5, 5});
+  ASSERT_TRUE(x_driver::waitUntil([&] { return asks.second != 0; }));
+  EXPECT_EQ(asks.second, 7);
+}
+
 }  // namespace
