@@ -4,6 +4,7 @@
 #include <string>
 
 #include "framework/core/app.h"
+#include "framework/core/errors.h"
 #include "tests/monkey/kept_open.h"
 #include "tests/support/every_control.h"
 
@@ -24,6 +25,7 @@ class RootDlg : public EveryControlDlg {
 }  // namespace
 
 void zApp::zAppEntry() {
+  debugFlags = zDebugTrace;  // a failed assertion is told in the trace, not in a box
   initIntPack();
   setDefaultDlgFontWeight(zFontSpec::weightBold);
   const std::string words = cmdLine();

@@ -7,6 +7,9 @@
 #include <Xm/MwmUtil.h>
 #include <Xm/Protocols.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "framework/controls/combo_box.h"
 #include "framework/controls/group_box.h"
 #include "framework/core/app.h"
@@ -16,6 +19,9 @@
 namespace {
 
 constexpr zDimension sizeWithoutTemplate{100, 100};
+
+// The dialogs whose modal loops are running, the innermost last.
+std::vector<const zDialogFrame*> runningModals;
 
 Atom deleteWindowAtom() {
   return XmInternAtom(app->display(), const_cast<char*>("WM_DELETE_WINDOW"), False);
@@ -250,10 +256,12 @@ void zDialogFrame::modal(int style) {
       style == zModalSystem ? MWM_INPUT_SYSTEM_MODAL : MWM_INPUT_PRIMARY_APPLICATION_MODAL,
       nullptr);
   showTimeout();
+  runningModals.push_back(this);
   zWindowWatch watch(this);
   while (!watch.gone() && !finished_ && zAppKeepRunning) {
     XtAppProcessEvent(app->context(), XtIMAll);
   }
+  runningModals.pop_back();
   --ziModalSem;
 }
 
@@ -301,7 +309,17 @@ void zDialogFrame::closeCB(Widget, XtPointer link, XtPointer) {
   static_cast<zDialogFrame*>(static_cast<ziControlCB*>(link)->window)->doClose();
 }
 
+// A dialog behind a modal one stays: whoever runs that would come back to a dialog that is gone.
+bool zDialogFrame::isBehindModal() const {
+  return std::any_of(runningModals.begin(), runningModals.end(),
+                     [this](const zDialogFrame* modal) { return isAncestorOf(modal); });
+}
+
 void zDialogFrame::doClose() {
+  if (parent() && isBehindModal()) {
+    app->beep(0);
+    return;
+  }
   if (parent()) {
     shutdown();
     return;

@@ -81,6 +81,7 @@ class zDialogFrame : public zFrameWin {
   void createFromTemplate();
   void bringUp();
   void doClose();
+  bool isBehindModal() const;
   static void closeCB(Widget widget, XtPointer link, XtPointer callData);
   static void ziShowTimeout(XtPointer link, XtIntervalId*);
   void cancelPendingShow();

@@ -74,6 +74,7 @@ struct Run {
   const char* play(long events) {
     while (monkey.eventsPlayed() < events) {
       if (!monkey.play()) return "the main window has gone";
+      probe.refuseLate();
       const bool due = monkey.eventsPlayed() % eventsBetweenProbes == 0;
       if ((due || monkey.eventsPlayed() == events) && !isAnswered()) return "no answer to a probe";
     }

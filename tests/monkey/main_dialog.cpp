@@ -1,6 +1,7 @@
 // The applet with a main dialog that stays open while the monkey plays with it.
 #include "shell/main_dialog.h"
 #include "framework/core/app.h"
+#include "framework/core/errors.h"
 #include "framework/resources/resources.h"
 #include "tests/monkey/kept_open.h"
 
@@ -23,6 +24,7 @@ class KeptMainDlg : public DMainDlg {
 }  // namespace
 
 void zApp::zAppEntry() {
+  debugFlags = zDebugTrace;  // a failed assertion is told in the trace, not in a box
   initIntPack();
   setDefaultDlgFontWeight(dialogFontWeight);
   KeptMainDlg main;

@@ -5,7 +5,9 @@
 #include <X11/keysym.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <thread>
 
 #include "tests/monkey/kept_open.h"
 
@@ -20,6 +22,7 @@ constexpr unsigned longestTurn = 6;
 constexpr unsigned smallestWindow = 20;  // pixels
 constexpr unsigned shownOfTopmost = 4;   // of so many places, all but one are in the topmost window
 constexpr int roundsOfClosing = 200;
+constexpr std::chrono::milliseconds pauseBetweenRounds(50);
 
 constexpr char characters[] = "abcdefghijklmnopqrstuvwxyz0123456789 .,:;-+/'[]=";
 constexpr KeySym controlKeys[] = {
@@ -90,19 +93,24 @@ void Monkey::keepInPlay() {
 
 void Monkey::finish() {
   XkbLockModifiers(display_, XkbUseCoreKbd, ~0U, 0);
-  for (int round = 0; round < roundsOfClosing && stage_.look(); ++round) {
-    const auto& shown = stage_.topLevels();
-    const auto other = std::find_if(shown.begin(), shown.end(), [&](const Stage::TopLevel& t) {
-      return t.managed && t.window != stage_.main();
-    });
-    if (other == shown.end()) break;
-    send(other->window, "WM_DELETE_WINDOW");
-    XSync(display_, False);
+  // A window that a modal one blocks takes its turn when that has gone.
+  for (int round = 0; round < roundsOfClosing && lookAround() && closeOthers(); ++round) {
+    std::this_thread::sleep_for(pauseBetweenRounds);
   }
   const Atom done = XInternAtom(display_, monkeyDone, False);
   XChangeProperty(display_, stage_.main(), done, done, 32, PropModeReplace, nullptr, 0);
   send(stage_.main(), "WM_DELETE_WINDOW");
   XSync(display_, False);
+}
+
+bool Monkey::closeOthers() {
+  bool any = false;
+  for (const Stage::TopLevel& t : stage_.topLevels()) {
+    if (!t.managed || t.window == stage_.main()) continue;
+    send(t.window, "WM_DELETE_WINDOW");
+    any = true;
+  }
+  return any || !stage_.isMainShown();
 }
 
 // Chance.

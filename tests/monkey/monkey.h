@@ -40,6 +40,8 @@ class Monkey {
 
   bool lookAround();
   void keepInPlay();
+  // Asks all windows but the main one to close. False when there are no others.
+  bool closeOthers();
 
   void typeCharacter();
   void typeControl();

@@ -56,6 +56,13 @@ bool Probe::awaitRequest(double deadline) const {
   }
 }
 
+void Probe::refuseLate() const {
+  XEvent event;
+  while (XCheckTypedWindowEvent(display_, owner_, SelectionRequest, &event)) {
+    refuse(event.xselectionrequest);
+  }
+}
+
 void Probe::refuse(const XSelectionRequestEvent& request) const {
   XEvent refusal{};
   refusal.xselection.type = SelectionNotify;
