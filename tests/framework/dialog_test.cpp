@@ -596,13 +596,13 @@ class AsksTwice : public zEvH {
   int ask(zNotifyEvt*) {
     Widget first = nullptr;
     Later answersFirst(300, [&] {
-      first = XmMessageBoxGetChild(XtNameToWidget(shownBox(), "MessageBox"), XmDIALOG_OK_BUTTON);
+      first = XtNameToWidget(shownBox(), "MessageBox");
       x_driver::key(XK_Return);
     });
     zMessage(app->rootWindow(), "first", "caption", 0x24);
     Later clicksFirstAgain(300, [&] {
-      XEvent click{};
-      XtCallActionProc(first, "ArmAndActivate", &click, nullptr, 0);
+      XmAnyCallbackStruct click{XmCR_OK, nullptr};
+      XtCallCallbacks(first, XmNokCallback, &click);
       Later answersSecond(100, [] { x_driver::key(XK_Escape); });
       x_driver::waitUntil([] { return !shownBox(); }, 1000);
     });
