@@ -1,5 +1,6 @@
 #include "framework/controls/edit.h"
 
+#include <X11/keysym.h>
 #include <Xm/RowColumn.h>
 #include <Xm/Text.h>
 
@@ -50,6 +51,7 @@ zEditBase::zEditBase(zWindow* parent, zSizer* sizer, unsigned long style, const 
 zEditBase::zEditBase(zWindow* parent, int id, std::string* store, unsigned long bindingStyle)
     : zControl(parent, id), store_(store), bindingStyle_(bindingStyle) {
   ziSetType(zTypeEditBase);
+  setHandler(this, &zEditBase::undoKey, zMsgKeyDown);
 }
 
 std::vector<Arg> zEditBase::textArgs() const {
@@ -260,6 +262,11 @@ int zEditBase::paste() {
 }
 
 // Undo.
+
+int zEditBase::undoKey(zKeyEvt* event) {
+  const bool isUndo = event->code() == XK_z && event->ctrl() && !event->alt();
+  return isUndo ? undo() : 0;
+}
 
 int zEditBase::undo() {
   if (!canUndo() || !textWidget()) return 0;

@@ -67,8 +67,9 @@ class zEditBase : public zControl {
   // More than one character coming in at once. Non-zero: taken care of, the widget adds nothing.
   virtual int pasteStr(std::string& text);
 
-  // One step: back to the text before the last change by the user, and again to the one behind it.
-  // Tells the parent as typing does. A text set by the program leaves nothing to undo.
+  // One step: back to the text before the last change by the user, and again to the one behind it;
+  // the key is Control-Z. Tells the parent as typing does. A text set by the program leaves nothing
+  // to undo.
   int canUndo() const { return undo_.holds(); }
   int undo();
   void emptyUndoBuffer() { undo_.empty(); }
@@ -179,6 +180,7 @@ class zEditBase : public zControl {
   bool replaceByEdited(XmTextVerifyCallbackStruct& verify, const std::string& before);
   void cleanInserted(XmTextVerifyCallbackStruct& verify);
   void setInserted(XmTextVerifyCallbackStruct& verify, const std::string& text);
+  int undoKey(zKeyEvt* event);
   void updateUndoBuffer(const XmTextVerifyCallbackStruct& verify, const zRange& offered,
                         std::string before);
 
@@ -192,6 +194,7 @@ class zEditBase : public zControl {
   bool offeredDeletion_ = false;
   std::string insertedByDeletion_;  // outlives the callback, since the widget reads it later
   ziEditUndo undo_;
+  std::optional<ziEditUndo> undoAfter_;  // what undo_ is once the change is made
 };
 
 // A field of one line.

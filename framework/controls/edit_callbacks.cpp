@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 #include "framework/controls/edit.h"
 #include "framework/core/event_translation.h"
@@ -147,8 +148,9 @@ void zEditBase::updateUndoBuffer(const XmTextVerifyCallbackStruct& verify, const
   if (single && !insertedText(verify).empty() && offered.start == offered.end) kind = Kind::typed;
   if (single && offered.start != offered.end) kind = Kind::deleted;
   const int caretAfter = caretAfter_.value_or(static_cast<int>(verify.startPos) + inserted);
-  undo_.note({std::move(before), static_cast<int>(verify.currInsert)}, kind, offered.start,
-             offered.end, caretAfter);
+  undoAfter_ = undo_;
+  undoAfter_->note({std::move(before), static_cast<int>(verify.currInsert)}, kind, offered.start,
+                   offered.end, caretAfter);
 }
 
 bool zEditBase::modify(XmTextVerifyCallbackStruct& verify) {
@@ -177,6 +179,7 @@ void zEditBase::modifyCB(Widget, XtPointer link, XtPointer callData) {
   edit->verify_ = &verify;
   edit->edited_.reset();
   edit->caretAfter_.reset();
+  edit->undoAfter_.reset();
   if (!edit->modify(verify)) verify.doit = False;
   if (watch.gone()) return;
   edit->verify_ = nullptr;
@@ -188,6 +191,7 @@ void zEditBase::changedCB(Widget widget, XtPointer link, XtPointer callData) {
   if (edit->semaphores_ & (settingText | formatting)) return;
   if (edit->caretAfter_) XmTextSetInsertionPosition(widget, *edit->caretAfter_);
   edit->caretAfter_.reset();
+  if (edit->undoAfter_) edit->undo_ = *std::exchange(edit->undoAfter_, std::nullopt);
   edit->hasChanged(1);
   const zWindowWatch watch(edit);
   notifyParent(edit, zNtfEditChange, callData);
