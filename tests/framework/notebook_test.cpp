@@ -309,6 +309,24 @@ TEST(Notebook, StretchesItsPages) {
   ASSERT_TRUE(x_driver::waitUntil([&] { return notebook.sizer()->width() < before.width; }));
 }
 
+TEST(Notebook, PaintsThePageThatIsShownAlone) {
+  Notebook notebook;
+  ASSERT_TRUE(x_driver::show(notebook));
+  const auto cost = [&](const std::function<void()>& change) {
+    const unsigned long before = x_driver::requestsSent();
+    change();
+    x_driver::settle();
+    return x_driver::requestsSent() - before;
+  };
+  for (int page : {2, 0, 2}) notebook.select(notebook.findPage(page));
+  const unsigned long full = cost([&] { notebook.select(notebook.findPage(0)); });
+  EXPECT_LT(cost([&] { notebook.select(notebook.lazy); }), full / 2) << "there is nothing on it";
+  EXPECT_LT(cost([&] {
+              for (zWindow* hidden : notebook.first->kidslist()) hidden->setDirty(nullptr, 1);
+            }),
+            10U);
+}
+
 TEST(Notebook, IsModalBelowAMessage) {
   Notebook notebook;
   int answer = 0;
