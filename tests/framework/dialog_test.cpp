@@ -19,12 +19,12 @@
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
-#include "framework/core/timer.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/dialogs/message.h"
 #include "framework/layout/dialog_unit.h"
 #include "framework/resources/resources.h"
 #include "framework/table/table.h"
+#include "tests/framework/behind_a_loop.h"
 #include "tests/support/x_driver.h"
 
 namespace {
@@ -54,18 +54,6 @@ constexpr zDialogTemplate testDialogs[] = {
     {everyControl, everyForm, 0x90C80080, 31, 17, 170, 112, "Every", "Helv", 12, zNoMenu},
 };
 const bool dialogsKnown = (ziAddDialogs(testDialogs), true);
-
-// Runs what it is given once the main loop has come round.
-class Later : public zEvH {
- public:
-  Later(unsigned long milliseconds, std::function<void()> action)
-      : action_(std::move(action)), timer_(this, &Later::run, milliseconds) {}
-
- private:
-  void run() { action_(); }
-  std::function<void()> action_;
-  zOneShotTimer timer_;
-};
 
 // The plain form with an edit in it, bound to `stored`.
 class TestForm : public zFormDialog {
@@ -550,16 +538,9 @@ TEST(Message, ClosingItIsItsSecondAnswer) {
   for (const auto& c : cases) {
     int modality = 0, decorations = 0;
     Later closes(200, [&] {
-      Display* display = app->display();
       const Widget box = shownBox();
       XtVaGetValues(box, XmNmwmInputMode, &modality, XmNmwmDecorations, &decorations, nullptr);
-      XClientMessageEvent close{};
-      close.type = ClientMessage;
-      close.window = XtWindow(box);
-      close.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
-      close.format = 32;
-      close.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
-      XSendEvent(display, close.window, False, 0, reinterpret_cast<XEvent*>(&close));
+      closeAsTheWindowManager(box);
     });
     const zMessage box(app->rootWindow(), "text", "caption", c.style);
     EXPECT_EQ(box.result(), c.result) << std::hex << c.style;
@@ -575,19 +556,6 @@ TEST(Message, EndsWithTheWindowItStandsOver) {
   ASSERT_TRUE(x_driver::show(*form));
   Later deletes(300, [&] { form.reset(); });
   EXPECT_EQ(zMessage(form.get(), "text", "caption", 0x24).result(), 7);
-}
-
-TEST(Message, BlocksOnlyTheHandlerThatRaisedIt) {
-  TestForm form;
-  int answer = 0;
-  Later raises(50, [&] {
-    Later answers(500, [] { x_driver::key(XK_Return); });
-    answer = zMessage(&form, "text", "caption", 0x30).result();
-    form.shutdown();
-  });
-  form.modal();
-  EXPECT_EQ(answer, 1);
-  EXPECT_TRUE(form.isFinished());
 }
 
 }  // namespace
