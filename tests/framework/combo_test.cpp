@@ -10,8 +10,8 @@
 #include "framework/controls/combo_box.h"
 #include "framework/controls/edit.h"
 #include "framework/core/app.h"
-#include "framework/core/timer.h"
 #include "framework/dialogs/form_dialog.h"
+#include "tests/framework/behind_a_loop.h"
 #include "tests/support/x_driver.h"
 
 namespace {
@@ -258,25 +258,17 @@ TEST_F(ComboTest, MayBeDestroyedWhileOpen) {
   EXPECT_TRUE(watch.gone());
 }
 
-// Plays the user of a dialog that runs a loop of its own.
-struct User : zEvH {
-  explicit User(ComboForm& dialog) : form(dialog) {}
-  void act() {
-    x_driver::click(*form.list, {8, 8});
-    opened = ziActiveCombo == form.list;
+TEST_F(ComboTest, WorksInAModalDialog) {
+  bool opened = false;
+  Later plays(600, [&] {
+    x_driver::click(*form->list, {8, 8});
+    opened = ziActiveCombo == form->list;
     x_driver::key(XK_End);
     x_driver::key(XK_Return);
-    form.shutdown();
-  }
-  ComboForm& form;
-  bool opened = false;
-  zOneShotTimer timer{this, &User::act, 600};
-};
-
-TEST_F(ComboTest, WorksInAModalDialog) {
-  User user(*form);
+    form->shutdown();
+  });
   form->modal();
-  EXPECT_TRUE(user.opened);
+  EXPECT_TRUE(opened);
   EXPECT_EQ(form->list->selection(), 4);
 }
 

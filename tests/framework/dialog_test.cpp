@@ -19,12 +19,12 @@
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
-#include "framework/core/timer.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/dialogs/message.h"
 #include "framework/layout/dialog_unit.h"
 #include "framework/resources/resources.h"
 #include "framework/table/table.h"
+#include "tests/framework/behind_a_loop.h"
 #include "tests/support/x_driver.h"
 
 namespace {
@@ -54,18 +54,6 @@ constexpr zDialogTemplate testDialogs[] = {
     {everyControl, everyForm, 0x90C80080, 31, 17, 170, 112, "Every", "Helv", 12, zNoMenu},
 };
 const bool dialogsKnown = (ziAddDialogs(testDialogs), true);
-
-// Runs what it is given once the main loop has come round.
-class Later : public zEvH {
- public:
-  Later(unsigned long milliseconds, std::function<void()> action)
-      : action_(std::move(action)), timer_(this, &Later::run, milliseconds) {}
-
- private:
-  void run() { action_(); }
-  std::function<void()> action_;
-  zOneShotTimer timer_;
-};
 
 // The plain form with an edit in it, bound to `stored`.
 class TestForm : public zFormDialog {
@@ -459,7 +447,7 @@ TEST(Modal, LoopsNestAndTimersRunOnTopOfThem) {
     EXPECT_FALSE(outer.isFinished());
     outer.shutdown();
   });
-  Later ticksAgain(120, [&] { ++ticks; });
+  Later ticksAgain(120, [&] { ticks += ziModalSem == 2; });
   Later ends(200, [&] { inner.shutdown(); });
   outer.modal();
   EXPECT_TRUE(innerEnded);
@@ -550,16 +538,9 @@ TEST(Message, ClosingItIsItsSecondAnswer) {
   for (const auto& c : cases) {
     int modality = 0, decorations = 0;
     Later closes(200, [&] {
-      Display* display = app->display();
       const Widget box = shownBox();
       XtVaGetValues(box, XmNmwmInputMode, &modality, XmNmwmDecorations, &decorations, nullptr);
-      XClientMessageEvent close{};
-      close.type = ClientMessage;
-      close.window = XtWindow(box);
-      close.message_type = XInternAtom(display, "WM_PROTOCOLS", False);
-      close.format = 32;
-      close.data.l[0] = static_cast<long>(XInternAtom(display, "WM_DELETE_WINDOW", False));
-      XSendEvent(display, close.window, False, 0, reinterpret_cast<XEvent*>(&close));
+      closeAsTheWindowManager(box);
     });
     const zMessage box(app->rootWindow(), "text", "caption", c.style);
     EXPECT_EQ(box.result(), c.result) << std::hex << c.style;

@@ -8,21 +8,17 @@
 
 namespace {
 
-struct AcrossCase {
-  int x;
-  int sampleWidth;
-  int pixels;
-};
-
 TEST(DialogUnit, RoundsAcrossAsTheLayoutsWereDrawnFor) {
-  constexpr AcrossCase cases[] = {
+  constexpr struct {
+    int x, sampleWidth, pixels;
+  } cases[] = {
       {0, 390, 0},  // t 0, u 1
       {1, 390, 2},  // 390/52 = 7 rest 26: t 8, u 9, 2 rest 1
       {4, 364, 7},  // 28 exactly, u 29, 7 rest 1
       {3, 364, 6},  // 21, u 22, 5 rest 2 goes up
       {286, 364, 501},
   };
-  for (const AcrossCase& c : cases) {
+  for (const auto& c : cases) {
     EXPECT_EQ(zDialogUnit::acrossPixels(c.x, c.sampleWidth), c.pixels)
         << c.x << " " << c.sampleWidth;
   }

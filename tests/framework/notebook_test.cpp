@@ -3,7 +3,6 @@
 #include <malloc.h>
 
 #include <climits>
-#include <functional>
 #include <memory>
 
 #include <X11/Intrinsic.h>
@@ -13,11 +12,11 @@
 #include "framework/controls/button.h"
 #include "framework/controls/edit.h"
 #include "framework/core/app.h"
-#include "framework/core/timer.h"
 #include "framework/dialogs/message.h"
 #include "framework/dialogs/notebook.h"
 #include "framework/resources/resources.h"
 #include "framework/table/table.h"
+#include "tests/framework/behind_a_loop.h"
 #include "tests/support/x_driver.h"
 
 namespace {
@@ -37,17 +36,6 @@ constexpr zDialogTemplate dialogs[] = {
     {controls, 9201, 0x80C80080, 0, 0, 200, 120, "Second", "Helv", 12, zNoMenu},
     {nullptr, 9202, 0x80C80080, 0, 0, 200, 120, "", "Helv", 12, zNoMenu}};
 const bool known = (ziAddDialogs(dialogs), true);
-
-class Later : public zEvH {
- public:
-  Later(unsigned long milliseconds, std::function<void()> action)
-      : action_(std::move(action)), timer_(this, &Later::run, milliseconds) {}
-
- private:
-  void run() { action_(); }
-  std::function<void()> action_;
-  zOneShotTimer timer_;
-};
 
 class Page : public zDialogPage {
  public:
@@ -117,17 +105,6 @@ zPoint middleOf(const zTab* tab) {
 
 bool focusIn(const zWindow& window) {
   return x_driver::waitUntil([&] { return x_driver::hasFocus(window); });
-}
-
-void closeAsTheWindowManager(Widget shell) {
-  XEvent event{};
-  event.xclient.type = ClientMessage;
-  event.xclient.window = XtWindow(shell);
-  event.xclient.message_type = XInternAtom(app->display(), "WM_PROTOCOLS", False);
-  event.xclient.format = 32;
-  const Atom request = XInternAtom(app->display(), "WM_DELETE_WINDOW", False);
-  event.xclient.data.l[0] = static_cast<long>(request);
-  XSendEvent(app->display(), XtWindow(shell), False, NoEventMask, &event);
 }
 
 TEST(Tabs, ShareARowThatIsTooShort) {

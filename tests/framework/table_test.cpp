@@ -27,18 +27,9 @@ constexpr zColor red{255, 0, 0};
 
 // Counts the notifications of a table.
 struct Listener : zEvH {
-  int activeChanged() {
-    ++activeChanges;
-    return 0;
-  }
-  int selectionChanged() {
-    ++selectionChanges;
-    return 0;
-  }
-  int clicked(zNotifyEvt*) {
-    ++clicks;
-    return 0;
-  }
+  int activeChanged() { return ++activeChanges, 0; }
+  int selectionChanged() { return ++selectionChanges, 0; }
+  int clicked(zNotifyEvt*) { return ++clicks, 0; }
   int clicks = 0;
   int activeChanges = 0;
   int selectionChanges = 0;
@@ -96,14 +87,12 @@ class TableTest : public testing::Test {
   Listener heard;
 };
 
-class LongTableTest : public TableTest {
- protected:
-  explicit LongTableTest(unsigned long rows = 50) : TableTest(rows) {}
+struct LongTableTest : TableTest {
+  LongTableTest() : TableTest(50) {}
 };
 
-class HugeTableTest : public LongTableTest {
- protected:
-  HugeTableTest() : LongTableTest(900) {}
+struct HugeTableTest : TableTest {
+  HugeTableTest() : TableTest(900) {}
 };
 
 TEST_F(TableTest, AnAdoptedTableWorksOnTheGenericOnesWidgets) {

@@ -1,3 +1,4 @@
+// When tool tips come, where, and when they go.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -41,6 +42,10 @@ std::optional<zRect> tip() {
   return found;
 }
 
+bool comes(int milliseconds = x_driver::patienceMs) {
+  return waitUntil([] { return tip().has_value(); }, milliseconds);
+}
+
 struct ToolTips : testing::Test {
   std::unique_ptr<zDialogFrame> form = std::make_unique<zDialogFrame>(
       app->rootWindow(), new zSizer(40, 40, 300, 160, nullptr), 0, "Form", 0);
@@ -67,7 +72,7 @@ TEST_F(ToolTips, ComeAfterAMomentAndGoWithThePointer) {
   waitUntil([] { return false; }, 100);  // still on its way
   const auto start = Clock::now();
   x_driver::moveTo(*panes[0], {10, 8});
-  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  ASSERT_TRUE(comes());
   EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(395));
   zRect pane;
   panes[0]->getExterior(pane);
@@ -77,7 +82,7 @@ TEST_F(ToolTips, ComeAfterAMomentAndGoWithThePointer) {
   x_driver::moveTo(*form, {5, 150});
   EXPECT_FALSE(tip());
   x_driver::moveTo(*panes[1], {10, 8});
-  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  ASSERT_TRUE(comes());
   EXPECT_GT(tip()->width(), narrow) << "the second text is longer";
   x_driver::press();
   EXPECT_FALSE(tip());
@@ -87,7 +92,7 @@ TEST_F(ToolTips, ComeAfterAMomentAndGoWithThePointer) {
 
 TEST_F(ToolTips, ComeAtOnceOnTheNextControlAndOnlyWhileTheFrameIsActive) {
   x_driver::moveTo(*panes[0], {10, 8});
-  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  ASSERT_TRUE(comes());
   const int first = tip()->left;
   x_driver::moveTo(*panes[1], {10, 8});
   ASSERT_TRUE(tip());
@@ -96,29 +101,27 @@ TEST_F(ToolTips, ComeAtOnceOnTheNextControlAndOnlyWhileTheFrameIsActive) {
   ASSERT_TRUE(x_driver::show(other));
   EXPECT_FALSE(tip());
   x_driver::moveTo(*panes[0], {12, 8});
-  EXPECT_FALSE(waitUntil([] { return tip().has_value(); }, 600));
+  EXPECT_FALSE(comes(600));
 }
 
-TEST_F(ToolTips, FallBackOnTheControlsOwnText) {
+TEST_F(ToolTips, FallBackOnTheControlsOwnTextWhenSwitchedOn) {
+  tips->enable(0);
+  x_driver::moveTo(*panes[0], {10, 8});
+  EXPECT_FALSE(comes(600));
+  tips->enable(1);
   x_driver::moveTo(*panes[2], {10, 8});
-  EXPECT_TRUE(waitUntil([] { return tip().has_value(); }));
+  EXPECT_TRUE(comes());
   x_driver::moveTo(*panes[3], {10, 8});
-  EXPECT_FALSE(waitUntil([] { return tip().has_value(); }, 700)) << "no text, no tip";
+  EXPECT_FALSE(comes(700)) << "no text, no tip";
 }
 
 TEST_F(ToolTips, DoNotComeBackWhileThePointerRests) {
   x_driver::moveTo(*panes[0], {10, 8});
-  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  ASSERT_TRUE(comes());
   const auto start = Clock::now();
   ASSERT_TRUE(waitUntil([] { return !tip(); }, 10000));
   EXPECT_GE(Clock::now() - start, std::chrono::milliseconds(5000));
-  EXPECT_FALSE(waitUntil([] { return tip().has_value(); }, 800));
-}
-
-TEST_F(ToolTips, StayAwayWhenSwitchedOff) {
-  tips->enable(0);
-  x_driver::moveTo(*panes[0], {10, 8});
-  EXPECT_FALSE(waitUntil([] { return tip().has_value(); }, 600));
+  EXPECT_FALSE(comes(800));
 }
 
 TEST_F(ToolTips, StayOnTheScreen) {
@@ -127,7 +130,7 @@ TEST_F(ToolTips, StayOnTheScreen) {
   form->vmove(width - 80, height - 60, 300, 160);
   x_driver::settle();
   x_driver::moveTo(*panes[0], {10, 8});
-  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  ASSERT_TRUE(comes());
   EXPECT_LE(tip()->right + 2, width);
   EXPECT_LE(tip()->bottom + 2, height);
   x_driver::moveTo(*form, {5, 5});
@@ -135,11 +138,11 @@ TEST_F(ToolTips, StayOnTheScreen) {
 
 TEST_F(ToolTips, ForgetADeletedControl) {
   x_driver::moveTo(*panes[0], {10, 8});
-  ASSERT_TRUE(waitUntil([] { return tip().has_value(); }));
+  ASSERT_TRUE(comes());
   delete panes[0];
   EXPECT_TRUE(waitUntil([] { return !tip(); }));
   x_driver::moveTo(*panes[1], {10, 8});
-  EXPECT_TRUE(waitUntil([] { return tip().has_value(); })) << "the others go on";
+  EXPECT_TRUE(comes()) << "the others go on";
   form.reset();
   EXPECT_TRUE(waitUntil([] { return !tip(); })) << "the dialog has gone";
 }
