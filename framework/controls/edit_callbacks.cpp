@@ -173,11 +173,17 @@ void zEditBase::modifyCB(Widget, XtPointer link, XtPointer callData) {
   auto& verify = *static_cast<XmTextVerifyCallbackStruct*>(callData);
   if (edit->semaphores_ & (settingText | modifying | formatting)) return;
   const zWindowWatch watch(edit);
+  const bool deletes = insertedText(verify).empty();
   edit->semaphores_ |= modifying;
   edit->verify_ = &verify;
   edit->edited_.reset();
   edit->caretAfter_.reset();
-  if (!edit->modify(verify)) verify.doit = False;
+  if (!edit->modify(verify)) {
+    verify.doit = False;
+    // The widget frees the text of any change that is not made; what stood in for a deletion is the
+    // field's own.
+    if (deletes && verify.text) *verify.text = {nullptr, 0, verify.text->format};
+  }
   if (watch.gone()) return;
   edit->verify_ = nullptr;
   edit->semaphores_ &= ~static_cast<unsigned>(modifying);
