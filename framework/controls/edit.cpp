@@ -163,7 +163,7 @@ void zEditBase::setText(const std::string& value, Semaphore why) {
 }
 
 void zEditBase::showEdited(const std::string& text, const zRange& selected) {
-  if (verify_) {
+  if (verify_ && !(semaphores_ & announcing)) {
     edited_ = {text, selected};
   } else {
     setText(text, formatting);

@@ -138,7 +138,7 @@ class zEditBase : public zControl {
   // The change under way, or null.
   const XmTextVerifyCallbackStruct* pendingChange() const { return verify_; }
   // Puts in place what an edit made of the text, with its selection; while a change is offered it
-  // goes in instead of that.
+  // goes in instead of that, and once it is announced the change is off.
   void showEdited(const std::string& text, const zRange& selected);
   // The selection that the widget has, whatever is under way.
   zRange widgetSelection() const;
@@ -148,7 +148,12 @@ class zEditBase : public zControl {
 
  private:
   // What is under way, so that a callback caused by it is not taken for typing.
-  enum Semaphore : unsigned { settingText = 0x1, modifying = 0x4, formatting = 0x10 };
+  enum Semaphore : unsigned {
+    settingText = 0x1,
+    announcing = 0x2,
+    modifying = 0x4,
+    formatting = 0x10
+  };
   class Hold;
   struct Edited {
     std::string text;

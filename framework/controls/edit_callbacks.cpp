@@ -161,8 +161,11 @@ bool zEditBase::modify(XmTextVerifyCallbackStruct& verify) {
   const bool accepted = offer(verify);
   if (watch.gone() || verify_ != &verify || (!accepted && !edited_)) return false;
   if (edited_ && !replaceByEdited(verify, before)) return false;
+  semaphores_ |= announcing;
   notifyParent(this, zNtfEditUpdate, &verify);
-  if (watch.gone() || verify_ != &verify) return false;
+  if (watch.gone()) return false;
+  semaphores_ &= ~static_cast<unsigned>(announcing);
+  if (verify_ != &verify) return false;
   cleanInserted(verify);
   updateUndoBuffer(verify, offered, before);
   return true;
