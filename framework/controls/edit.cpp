@@ -51,7 +51,7 @@ zEditBase::zEditBase(zWindow* parent, zSizer* sizer, unsigned long style, const 
 zEditBase::zEditBase(zWindow* parent, int id, std::string* store, unsigned long bindingStyle)
     : zControl(parent, id), store_(store), bindingStyle_(bindingStyle) {
   ziSetType(zTypeEditBase);
-  setHandler(this, &zEditBase::undoKey, zMsgKeyDown);
+  setHandler(this, &zEditBase::editKey, zMsgKeyDown);
 }
 
 std::vector<Arg> zEditBase::textArgs() const {
@@ -165,7 +165,7 @@ void zEditBase::setText(const std::string& value, Semaphore why) {
 }
 
 void zEditBase::showEdited(const std::string& text, const zRange& selected) {
-  if (verify_) {
+  if (verify_ && !(semaphores_ & announcing)) {
     edited_ = {text, selected};
   } else {
     setText(text, formatting);
@@ -261,12 +261,24 @@ int zEditBase::paste() {
   return textWidget() && XmTextPaste(textWidget());
 }
 
-// Undo.
-
-int zEditBase::undoKey(zKeyEvt* event) {
-  const bool isUndo = event->code() == XK_z && event->ctrl() && !event->alt();
-  return isUndo ? undo() : 0;
+// The keys that the widget has no binding for. It would insert their control characters, which are
+// refused.
+int zEditBase::editKey(zKeyEvt* event) {
+  static constexpr struct {
+    KeySym key;
+    int (zEditBase::*act)();
+  } keys[] = {{XK_x, &zEditBase::cut},
+              {XK_c, &zEditBase::copy},
+              {XK_v, &zEditBase::paste},
+              {XK_z, &zEditBase::undo}};
+  if (!event->ctrl() || event->alt() || event->shift()) return 0;
+  for (const auto& known : keys) {
+    if (known.key == event->code()) return (this->*known.act)();
+  }
+  return 0;
 }
+
+// Undo.
 
 int zEditBase::undo() {
   if (!canUndo() || !textWidget()) return 0;

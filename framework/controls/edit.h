@@ -59,7 +59,7 @@ class zEditBase : public zControl {
   virtual void selection(int start, int end);
   std::string getSelection() const;
   // Edits as the user makes them, with all that follows; cut, copy and paste answer whether there
-  // was something to do.
+  // was something to do. Their keys are Control-X, C and V, beside those of the toolkit.
   void replaceSelection(const char* text);
   int cut();
   int copy();
@@ -139,7 +139,7 @@ class zEditBase : public zControl {
   // The change under way, or null.
   const XmTextVerifyCallbackStruct* pendingChange() const { return verify_; }
   // Puts in place what an edit made of the text, with its selection; while a change is offered it
-  // goes in instead of that.
+  // goes in instead of that, and once it is announced the change is off.
   void showEdited(const std::string& text, const zRange& selected);
   // The selection that the widget has, whatever is under way.
   zRange widgetSelection() const;
@@ -149,7 +149,12 @@ class zEditBase : public zControl {
 
  private:
   // What is under way, so that a callback caused by it is not taken for typing.
-  enum Semaphore : unsigned { settingText = 0x1, modifying = 0x4, formatting = 0x10 };
+  enum Semaphore : unsigned {
+    settingText = 0x1,
+    announcing = 0x2,
+    modifying = 0x4,
+    formatting = 0x10
+  };
   class Hold;
   struct Edited {
     std::string text;
@@ -180,7 +185,7 @@ class zEditBase : public zControl {
   bool replaceByEdited(XmTextVerifyCallbackStruct& verify, const std::string& before);
   void cleanInserted(XmTextVerifyCallbackStruct& verify);
   void setInserted(XmTextVerifyCallbackStruct& verify, const std::string& text);
-  int undoKey(zKeyEvt* event);
+  int editKey(zKeyEvt* event);
   void updateUndoBuffer(const XmTextVerifyCallbackStruct& verify, const zRange& offered,
                         std::string before);
 

@@ -163,8 +163,11 @@ bool zEditBase::modify(XmTextVerifyCallbackStruct& verify) {
   const bool accepted = offer(verify);
   if (watch.gone() || verify_ != &verify || (!accepted && !edited_)) return false;
   if (edited_ && !replaceByEdited(verify, before)) return false;
+  semaphores_ |= announcing;
   notifyParent(this, zNtfEditUpdate, &verify);
-  if (watch.gone() || verify_ != &verify) return false;
+  if (watch.gone()) return false;
+  semaphores_ &= ~static_cast<unsigned>(announcing);
+  if (verify_ != &verify) return false;
   cleanInserted(verify);
   updateUndoBuffer(verify, offered, before);
   return true;
@@ -175,12 +178,18 @@ void zEditBase::modifyCB(Widget, XtPointer link, XtPointer callData) {
   auto& verify = *static_cast<XmTextVerifyCallbackStruct*>(callData);
   if (edit->semaphores_ & (settingText | modifying | formatting)) return;
   const zWindowWatch watch(edit);
+  const bool deletes = insertedText(verify).empty();
   edit->semaphores_ |= modifying;
   edit->verify_ = &verify;
   edit->edited_.reset();
   edit->caretAfter_.reset();
   edit->undoAfter_.reset();
-  if (!edit->modify(verify)) verify.doit = False;
+  if (!edit->modify(verify)) {
+    verify.doit = False;
+    // The widget frees the text of any change that is not made; what stood in for a deletion is the
+    // field's own.
+    if (deletes && verify.text) *verify.text = {nullptr, 0, verify.text->format};
+  }
   if (watch.gone()) return;
   edit->verify_ = nullptr;
   edit->semaphores_ &= ~static_cast<unsigned>(modifying);

@@ -63,6 +63,41 @@ TEST(FormattedEdit, TellsASelectedCharacterFromOneAtTheCaret) {
   EXPECT_EQ(shown(field), "123.|456.789.012");
 }
 
+// Does something of its own when a change is announced.
+struct Meddler : Form {
+  explicit Meddler(zStringEdit*& field, bool deletes) : field_(field), deletes_(deletes) {}
+  int update(zNotifyEvt*) override {
+    if (deletes_) {
+      delete this;
+    } else {
+      field_->setToDefault();
+    }
+    return 0;
+  }
+
+ private:
+  zStringEdit*& field_;
+  bool deletes_;
+};
+
+TEST(FormattedEdit, LeavesTheLastWordToItsParent) {
+  for (const bool deletes : {true, false}) {
+    for (const KeySym key : {KeySym{XK_Delete}, KeySym{'7'}}) {
+      zStringEdit* field = nullptr;
+      auto* form = new Meddler(field, deletes);
+      const zWindowWatch watch(form);
+      std::string value = "10.0.0.1";
+      field = new zStringEdit(form, firstId, &value, ipPicture, ipStyle);
+      ASSERT_TRUE(form->start(*field));
+      x_driver::key(key);
+      ASSERT_EQ(watch.gone(), deletes);
+      if (deletes) continue;
+      EXPECT_EQ(shown(*field), "|10_.0__.0__.1__");
+      delete form;
+    }
+  }
+}
+
 TEST(FormattedEdit, TakesWhatIsPastedAndMoved) {
   Form form;
   std::string value;
