@@ -238,7 +238,19 @@ void zNotebookDialog::setAllowApply(int on) {
   }
 }
 
+// Tab visits what it stops at in the order in which Motif was told of it, and the pages come after
+// the buttons.
+void zNotebookDialog::buttonsLast() {
+  for (const zPushButton* button : {ok_, cancel_, apply_, help_}) {
+    if (!button) continue;
+    for (const bool stop : {false, true}) {
+      XtVaSetValues(button->getWidget(), XmNnavigationType, ziNavigation(stop), nullptr);
+    }
+  }
+}
+
 void zNotebookDialog::ziWasSelected(const zPageDef* def) {
+  buttonsLast();
   if (!apply_ || apply_->isEnabled() == def->allowApply()) return;
   setAllowApply(def->allowApply());
 }

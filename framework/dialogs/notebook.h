@@ -121,6 +121,7 @@ class zNotebookDialog : public zDialogFrame {
   void ziSetup();
   zPushButton* makeButton(zSizer* place, const char* label, int id,
                           int (zNotebookDialog::*pressed)(zEvent*));
+  void buttonsLast();
   void ziWasSelected(const zPageDef* def);
   int ziOnOk(zEvent* event);
   int ziOnCancel(zEvent* event);
