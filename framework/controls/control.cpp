@@ -81,6 +81,8 @@ void zControl::pressDefaultButton(void* callData) {
   constexpr int withoutDefault = 1;
   if (!parent()) return;
   const zWindow* button = parent()->ziFindDefPushButton();
+  // One that takes no clicks takes none from the keyboard.
+  if (button && button->getWidget() && !(button->isEnabled() && button->isShown())) return;
   zEvent event(zMsgCommand);
   event.callData = callData;
   event.codeWord = zNtfClicked;

@@ -22,6 +22,7 @@ constexpr zControlRecord controls[] = {
     {zAtomComboBox, nullptr, 102, "", tab | 2, 77, 7, 60, 80},
     {zAtomComboBox, nullptr, 103, "", tab | 1, 147, 7, 60, 60},
     {zAtomEdit, nullptr, 104, "", tab, 7, 80, 60, 13},
+    {zAtomButton, nullptr, 1, "OK", tab | 1, 147, 80, 40, 14},
     {0, nullptr, 0, nullptr, 0, 0, 0, 0, 0},
 };
 constexpr zDialogTemplate dialogs[] = {
@@ -240,6 +241,22 @@ TEST_F(ComboTest, ClosesWithWhatItBelongsTo) {
     closes();
     EXPECT_TRUE(x_driver::waitUntil([] { return !ziActiveCombo; })) << &closes - reasons;
     EXPECT_TRUE(pointerIsFree());
+  }
+}
+
+TEST_F(ComboTest, ReturnPressesTheDefaultButtonUnlessItIsDisabled) {
+  for (const int id : {101, 102, 103, 104}) {
+    ComboForm dialog;
+    dialog.list->selection(0);
+    dialog.edit->text("x");
+    dialog.show(1);
+    ASSERT_TRUE(x_driver::show(dialog));
+    for (const bool enabled : {false, true}) {
+      enabled ? dialog.get(1)->enable() : dialog.get(1)->disable();
+      ASSERT_TRUE(x_driver::giveFocus(*dialog.get(id))) << id;
+      x_driver::key(XK_Return);
+      EXPECT_EQ(dialog.completed() != 0, enabled) << id;
+    }
   }
 }
 
