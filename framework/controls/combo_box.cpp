@@ -6,6 +6,7 @@
 #include <Xm/Text.h>
 
 #include "framework/core/app.h"
+#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 zComboBoxBase* ziActiveCombo = nullptr;
@@ -69,6 +70,7 @@ int zComboBoxBase::create() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
+  addCallback(text, XmNdestinationCallback, pasteBeginsCB);
   createLists(form, text, height);
   return 1;
 }
@@ -359,6 +361,10 @@ void zComboBoxBase::focusCB(Widget, XtPointer link, XtPointer callData) {
 
 void zComboBoxBase::activateCB(Widget, XtPointer link, XtPointer callData) {
   controlOf<zComboBoxBase>(link)->pressDefaultButton(callData);
+}
+
+void zComboBoxBase::pasteBeginsCB(Widget, XtPointer, XtPointer) {
+  ziSelectionAskedFor();
 }
 
 void zComboBoxBase::losingFocusCB(Widget text, XtPointer link, XtPointer callData) {

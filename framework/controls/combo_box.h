@@ -133,6 +133,7 @@ class zComboBoxBase : public ziItemControl {
   static void cbDblClickCB(Widget widget, XtPointer link, XtPointer callData);
   static void modifyCB(Widget widget, XtPointer link, XtPointer callData);
   static void changedCB(Widget widget, XtPointer link, XtPointer callData);
+  static void pasteBeginsCB(Widget widget, XtPointer link, XtPointer callData);
   static void activateCB(Widget widget, XtPointer link, XtPointer callData);
   static void focusCB(Widget widget, XtPointer link, XtPointer callData);
   static void losingFocusCB(Widget widget, XtPointer link, XtPointer callData);

@@ -124,6 +124,7 @@ void zEditBase::createText() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
+  addCallback(text, XmNdestinationCallback, pasteBeginsCB);
 }
 
 // Data transfer.

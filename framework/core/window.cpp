@@ -7,6 +7,7 @@
 #include "framework/controls/button.h"
 #include "framework/core/app.h"
 #include "framework/core/frame_window.h"
+#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/drawing/bitmap.h"
@@ -47,7 +48,7 @@ zWindow::~zWindow() {
 void zWindow::destroyWidgets(Widget top) {
   if (!destroyed_ && top) {
     unlisten();
-    XtDestroyWidget(top);
+    ziDestroyWidget(top);
   }
   mainWidget_ = nullptr;
   scrolledWidget_ = nullptr;

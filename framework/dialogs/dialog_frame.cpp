@@ -14,6 +14,7 @@
 #include "framework/controls/group_box.h"
 #include "framework/core/app.h"
 #include "framework/core/event_translation.h"
+#include "framework/core/widget_end.h"
 #include "framework/dialogs/dialog_reader.h"
 
 namespace {
@@ -70,8 +71,9 @@ zDialogFrame::~zDialogFrame() {
   if (ziActiveDialog == workArea_) ziActiveDialog = nullptr;
   if (isDestroyed()) return;  // the shell went with that of the dialog this one stood over
   // The shell takes all widgets below it along, so the children must not touch theirs.
+  zComboBoxBase::ziResetPopup();
   zAppDoSetAllDestroyed(this);
-  if (!isRoot() && shell()) XtDestroyWidget(shell());
+  if (!isRoot() && shell()) ziDestroyWidget(shell());
 }
 
 void zDialogFrame::unlisten() {

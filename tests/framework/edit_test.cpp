@@ -147,6 +147,29 @@ TEST(Edit, ShowsOnlyWhatAWidgetCanTake) {
   EXPECT_EQ(XmTextGetMaxLength(field.drawnWidget()), 32000);
 }
 
+TEST(Edit, IsKeptUntilNoAnswerToAPasteCanCome) {
+  Display* const silent = XOpenDisplay(DisplayString(app->display()));
+  const Window owner = XCreateSimpleWindow(silent, DefaultRootWindow(silent), 0, 0, 1, 1, 0, 0, 0);
+  XSetSelectionOwner(silent, XA_PRIMARY, owner, CurrentTime);
+  XSync(silent, False);
+  const unsigned long patience = XtAppGetSelectionTimeout(app->context());
+  XtAppSetSelectionTimeout(app->context(), 200);
+  auto form = std::make_unique<Form>();
+  auto* field = new zEditLine(form.get(), firstId);
+  ASSERT_TRUE(form->start(*field));
+  x_driver::click(*field, inText, 2);
+  bool gone = false;
+  XtAddCallback(
+      field->drawnWidget(), XmNdestroyCallback,
+      [](Widget, XtPointer told, XtPointer) { *static_cast<bool*>(told) = true; }, &gone);
+  form.reset();
+  x_driver::settle();
+  EXPECT_FALSE(gone);
+  EXPECT_TRUE(x_driver::waitUntil([&] { return gone; }));
+  XtAppSetSelectionTimeout(app->context(), patience);
+  XCloseDisplay(silent);
+}
+
 // A field that notes its keys, refuses digits and turns 'x' into 'y'.
 class Choosy : public zEditLine {
  public:
