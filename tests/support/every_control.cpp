@@ -16,6 +16,8 @@
 #include "framework/dialogs/font_form.h"
 #include "framework/dialogs/message.h"
 #include "framework/drawing/bitmap.h"
+#include "framework/entry/number_edits.h"
+#include "framework/entry/string_edit.h"
 #include "framework/resources/resources.h"
 
 namespace {
@@ -67,20 +69,35 @@ constexpr zControlRecord formControls[] = {
 };
 
 constexpr zControlRecord entryControls[] = {
-    {0, "zGroupBox3dClass", 100, "Lines", group, 7, 7, 132, 104},
+    {0, "zGroupBox3dClass", 100, "Lines", group, 7, 7, 152, 104},
     {zAtomStatic, nullptr, 101, "&Plain:", label, 13, 19, 46, 14},
-    {zAtomEdit, nullptr, 102, nullptr, tab, 61, 19, 72, 14},
+    {zAtomEdit, nullptr, 102, nullptr, tab, 61, 19, 92, 14},
     {zAtomStatic, nullptr, 103, "&Upper case:", label, 13, 37, 46, 14},
-    {zAtomEdit, nullptr, 104, nullptr, tab | zEditStyle::upperCase, 61, 37, 72, 14},
+    {zAtomEdit, nullptr, 104, nullptr, tab | zEditStyle::upperCase, 61, 37, 92, 14},
     {zAtomStatic, nullptr, 105, "&Lower case:", label, 13, 55, 46, 14},
-    {zAtomEdit, nullptr, 106, nullptr, tab | zEditStyle::lowerCase, 61, 55, 72, 14},
+    {zAtomEdit, nullptr, 106, nullptr, tab | zEditStyle::lowerCase, 61, 55, 92, 14},
     {zAtomStatic, nullptr, 107, "Read-only:", label, 13, 73, 46, 14},
-    {zAtomEdit, nullptr, 108, "8 adapters", label | zEditStyle::readOnly, 61, 73, 72, 14},
+    {zAtomEdit, nullptr, 108, "8 adapters", label | zEditStyle::readOnly, 61, 73, 92, 14},
     {zAtomStatic, nullptr, 109, "Disabled:", label, 13, 91, 46, 14},
-    {zAtomEdit, nullptr, 110, "no access", tab | zStyleDisabled, 61, 91, 72, 14},
-    {0, "zGroupBox3dClass", 111, "Several Lines", group, 146, 7, 133, 104},
-    {zAtomEdit, nullptr, 112, nullptr, box | zStyleVScroll, 152, 19, 121, 41},
-    {zAtomEdit, nullptr, 113, nullptr, box | zStyleHScroll | zStyleVScroll, 152, 64, 121, 41},
+    {zAtomEdit, nullptr, 110, "no access", tab | zStyleDisabled, 61, 91, 92, 14},
+    {0, "zGroupBox3dClass", 111, "Several Lines", group, 166, 7, 113, 104},
+    {zAtomEdit, nullptr, 112, nullptr, box | zStyleVScroll, 172, 19, 101, 41},
+    {zAtomEdit, nullptr, 113, nullptr, box | zStyleHScroll | zStyleVScroll, 172, 64, 101, 41},
+    {0, "zGroupBox3dClass", 114, "Formatted", group, 7, 118, 272, 97},
+    {zAtomStatic, nullptr, 115, "&ATM address:", label, 13, 130, 260, 9},
+    {zAtomEdit, nullptr, 116, nullptr, tab, 13, 141, 260, 14},
+    {zAtomStatic, nullptr, 117, "&IP address:", label, 13, 159, 46, 14},
+    {zAtomEdit, nullptr, 118, nullptr, tab, 61, 159, 92, 14},
+    {zAtomStatic, nullptr, 119, "&Number:", label, 172, 159, 46, 14},
+    {zAtomEdit, nullptr, 120, nullptr, tab, 220, 159, 53, 14},
+    {zAtomStatic, nullptr, 121, "&MAC address:", label, 13, 177, 46, 14},
+    {zAtomEdit, nullptr, 122, nullptr, tab, 61, 177, 92, 14},
+    {zAtomStatic, nullptr, 123, "&Signed:", label, 172, 177, 46, 14},
+    {zAtomEdit, nullptr, 124, nullptr, tab, 220, 177, 53, 14},
+    {zAtomStatic, nullptr, 125, "&ESI, selector:", label, 13, 195, 46, 14},
+    {zAtomEdit, nullptr, 126, nullptr, tab, 61, 195, 92, 14},
+    {zAtomStatic, nullptr, 127, "&Capitals:", label, 172, 195, 46, 14},
+    {zAtomEdit, nullptr, 128, nullptr, tab, 220, 195, 53, 14},
     end,
 };
 
@@ -154,7 +171,7 @@ constexpr std::uint32_t pageStyle = 0x80C80080;
 constexpr zDialogTemplate dialogs[] = {
     {mainControls, 9600, 0x80CE0000, 0, 0, 286, 172, "Every Control", "Helv", 12, zNoMenu},
     {formControls, 9601, pageStyle, 20, 20, 202, 86, "Form", "Helv", 12, zNoMenu},
-    {entryControls, 9602, pageStyle, 0, 0, 286, 185, "Entry", "Helv", 12, zNoMenu},
+    {entryControls, 9602, pageStyle, 0, 0, 286, 222, "Entry", "Helv", 12, zNoMenu},
     {choiceControls, 9603, pageStyle, 0, 0, 286, 185, "Choices", "Helv", 12, zNoMenu},
     {listControls, 9604, pageStyle, 0, 0, 286, 185, "Lists", "Helv", 12, zNoMenu},
     {displayControls, 9605, pageStyle, 0, 0, 286, 185, "Display", "Helv", 12, zNoMenu},
@@ -182,6 +199,13 @@ constexpr unsigned long changePeriodMs = 200;
 constexpr int formTemplate = 9601;
 constexpr int deepestForm = 4;
 
+// What the formatted fields take.
+constexpr unsigned long required = zFormatter::fillMode | zFormatter::required;
+constexpr unsigned long requiredRaw = required | zFormatter::rawValue;
+constexpr char ipPicture[] = "[0-9](3)'.'[0-9](3)'.'[0-9](3)'.'[0-9](3)";
+constexpr int atmPairs = 20;
+constexpr int macPairs = 6;
+
 // The message boxes behind the buttons from this one on.
 constexpr int firstMessageButton = 110;
 constexpr unsigned messageStyles[] = {0x10, 0x21, 0x12, 0x23, 0x34, 0x45};
@@ -192,6 +216,13 @@ void fill(zTableSmallModel& model) {
       model.textToCell({column, row}, std::to_string(row * column).c_str());
     }
   }
+}
+
+// Pairs of hex digits with colons between.
+std::string hexPicture(int pairs) {
+  std::string text = "[0-9A-Fa-f](2)";
+  while (--pairs > 0) text += "':'[0-9A-Fa-f](2)";
+  return text;
 }
 
 zBitmapButton* adoptBitmapButton(zWindow* window, int id, int bitmap) {
@@ -222,15 +253,36 @@ class EntryPage : public EveryPage {
     new zEditLine(this, 110);
     new zEditBase(this, 112, &text_, zEditBase::mayStayEmpty);
     new zEditBase(this, 113, &text_, zEditBase::mayStayEmpty);
-    for (const int id : {100, 111}) new zGroupBox(this, id);
+    createFormatted();
+    for (const int id : {100, 111, 114}) new zGroupBox(this, id);
     setControlsToDefault();
   }
 
  private:
+  void createFormatted() {
+    const std::string mac = hexPicture(macPairs);
+    for (const int id : {115, 117, 119, 121, 123, 125, 127}) new zStaticText(this, id);
+    new zStringEdit(this, 116, &atm_, hexPicture(atmPairs).c_str(), requiredRaw);
+    new zStringEdit(this, 118, &ip_, ipPicture, required);
+    new zUnsignedIntEdit(this, 120, &number_, "####", 0);
+    new zStringEdit(this, 122, &mac_, mac.c_str(), required);
+    new zIntEdit(this, 124, &signed_);
+    new zStringEdit(this, 126, &esi_, (mac + "'-'[0-9A-Fa-f](2)").c_str(), requiredRaw);
+    new zStringEdit(this, 128, &capitals_, zFormatter::upperCase);
+  }
+
   std::string plain_ = "plain";
   std::string upper_ = "UPPER";
   std::string lower_ = "lower";
   std::string text_ = "The quick brown fox\njumps over\nthe lazy dog\nand comes back.";
+  // The widest that the fields have room for.
+  std::string atm_ = std::string(2 * atmPairs, 'D');
+  std::string ip_ = "192.168.100.200";
+  std::string mac_ = "DD:DD:DD:DD:DD:DD";
+  std::string esi_ = "DDDDDDDDDDDDDD";
+  unsigned number_ = 9999;
+  int signed_ = -32768;
+  std::string capitals_ = "ONDRELLE";
 };
 
 class ChoicePage : public EveryPage {
