@@ -14,6 +14,13 @@ extern "C" void _XEditResCheckMessages(Widget, XtPointer, XEvent*, Boolean*);
 
 namespace {
 
+// Every label and text would be a thing to drag. Nothing of ours takes what is dropped but texts,
+// which have the middle button's paste, and the toolkit does not survive it when the source or the
+// target of a drag goes before the drag is over.
+void refuseDrag(Widget, XtPointer, XtPointer callData) {
+  static_cast<XmDragStartCallbackStruct*>(callData)->doit = False;
+}
+
 struct StyleHint {
   unsigned long style;  // all of these bits
   int decoration;
@@ -67,8 +74,10 @@ void zFrameWin::createApplicationShell() {
                               XmDO_NOTHING, XmNtitle, title().c_str(), XmNmwmDecorations,
                               hints.decorations, XmNmwmFunctions, hints.functions, nullptr);
   app->setToplevel(shell_);
-  XtVaSetValues(XmGetXmDisplay(app->display()), XmNdragInitiatorProtocolStyle,
-                XmDRAG_PREFER_RECEIVER, XmNdragReceiverProtocolStyle, XmDRAG_DYNAMIC, nullptr);
+  const Widget display = XmGetXmDisplay(app->display());
+  XtVaSetValues(display, XmNdragInitiatorProtocolStyle, XmDRAG_PREFER_RECEIVER,
+                XmNdragReceiverProtocolStyle, XmDRAG_DYNAMIC, nullptr);
+  XtAddCallback(display, XmNdragStartCallback, refuseDrag, nullptr);
   XtAddEventHandler(shell_, NoEventMask, True, _XEditResCheckMessages, nullptr);
   app->setScreenDefaults(shell_);
   if (!zAppFontDict) zAppFontDict = new ziFontDict;

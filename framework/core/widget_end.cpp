@@ -1,6 +1,5 @@
 #include "framework/core/widget_end.h"
 
-#include <Xm/DragDrop.h>
 #include <Xm/Xm.h>
 
 #include <algorithm>
@@ -21,11 +20,6 @@ unsigned long untilLastAnswer() {
   const auto left = lastAnswer - Clock::now();
   const auto ms = std::chrono::ceil<std::chrono::milliseconds>(left).count();
   return static_cast<unsigned long>(std::max<long>(ms, 0));
-}
-
-void giveUpDrag(Widget widget) {
-  const Widget drag = XmGetDragContext(widget, XtLastTimestampProcessed(XtDisplay(widget)));
-  if (drag) XmDragCancel(drag);
 }
 
 struct Kept {
@@ -53,7 +47,6 @@ void ziSelectionAskedFor() {
 }
 
 void ziDestroyWidget(Widget widget) {
-  giveUpDrag(widget);
   if (XtIsShell(widget)) {
     XtPopdown(widget);
   } else {

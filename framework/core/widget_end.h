@@ -6,10 +6,9 @@
 // Takes a widget off the screen and destroys it with all below it. Its procedures have been taken
 // off before.
 //
-// What the toolkit began for a widget it finishes whether or not the widget is there still: a text
-// that waits for a selection is called back when the answer comes or the time for it is up, and a
-// drag when it ends. So a drag is given up here, and while an answer may be outstanding the widgets
-// are kept, unseen, until it no longer is.
+// A text that waits for a selection is called back when the answer comes or the time for it is up,
+// whether or not it is there still. So while an answer may be outstanding the widgets are kept,
+// unseen, until it no longer is.
 void ziDestroyWidget(Widget widget);
 
 // To be called when a text begins to ask for a selection.
