@@ -32,7 +32,7 @@ constexpr unsigned long childStyle = 0x50010000;
 constexpr int tableId = 101;
 constexpr unsigned long columns = 6;
 constexpr unsigned long rows = 900;
-constexpr zDimension tableSize{600, 400};
+constexpr zDimension tableSize{600, 384};  // shows 20 whole rows, as the bare drawing does
 constexpr zDimension listSize{300, 300};
 constexpr zPoint besideTheDialog{640, 100};
 constexpr zPoint belowTheDialog{640, 600};
