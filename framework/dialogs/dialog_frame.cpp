@@ -16,6 +16,7 @@
 #include "framework/core/event_translation.h"
 #include "framework/core/widget_end.h"
 #include "framework/dialogs/dialog_reader.h"
+#include "framework/dialogs/message.h"
 
 namespace {
 
@@ -296,6 +297,7 @@ void zDialogFrame::shutdown() {
   const bool root = isRoot();
   zComboBoxBase::ziResetPopup();
   finished_ = true;
+  zMessage::closeOver(this);
   cancelPendingShow();
   if (root) {
     if (XtIsRealized(shell())) XtUnmapWidget(shell());

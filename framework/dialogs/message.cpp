@@ -90,11 +90,34 @@ void useFont(Widget box, XmFontList fonts) {
   for (const Slot& slot : slots) ziSetFontList(XmMessageBoxGetChild(box, slot.child), fonts);
 }
 
+// A box on the screen, and the window that it stands over, which may go before it.
+struct OpenBox {
+  OpenBox(zMessage* message, zWindow* over);
+  ~OpenBox();
+  bool isOver(const zFrameWin* frame) const {
+    return parent && !watch.gone() && parent->frame() == frame;
+  }
+
+  zMessage* box;
+  zWindow* parent;
+  zWindowWatch watch;
+};
+std::vector<OpenBox*> openBoxes;
+
+OpenBox::OpenBox(zMessage* message, zWindow* over) : box(message), parent(over), watch(over) {
+  openBoxes.push_back(this);
+}
+
+OpenBox::~OpenBox() {
+  std::erase(openBoxes, this);
+}
+
 }  // namespace
 
 zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigned style) {
   const Widget shell = shellOf(parent);
   if (!shell) return;
+  const OpenBox open(this, parent);
   const Widget box = createBox(shell, text, title, style);
   labelButtons(box, style);
   if (parent && parent->getFont()) useFont(box, parent->getFont()->fontList());
@@ -115,6 +138,13 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   XmRemoveWMProtocolCallback(XtParent(box), close, doClose, this);
   XtUnmanageChild(box);
   XtDestroyWidget(XtParent(box));
+}
+
+// One that stayed would go off the screen with the frame, and nobody could answer it.
+void zMessage::closeOver(zFrameWin* frame) {
+  for (const OpenBox* open : openBoxes) {
+    if (open->isOver(frame)) open->box->answer(1);
+  }
 }
 
 // The window that the box stands over was deleted, and the box with it: as if it had been closed.

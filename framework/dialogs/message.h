@@ -3,6 +3,7 @@
 
 #include <Xm/Xm.h>
 
+class zFrameWin;
 class zWindow;
 
 // Shows a box over `parent` and runs a loop of its own until it is answered; the constructor
@@ -19,6 +20,9 @@ class zMessage {
 
   // The answer: closing the box counts as its second button, or its only one.
   int result() const { return result_; }
+
+  // Closes the boxes that are open over windows of this frame, which is being closed itself.
+  static void closeOver(zFrameWin* frame);
 
  private:
   static void buttonCB(Widget widget, XtPointer message, XtPointer callData);

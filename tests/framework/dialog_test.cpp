@@ -556,6 +556,9 @@ TEST(Message, EndsWithTheWindowItStandsOver) {
   ASSERT_TRUE(x_driver::show(*form));
   Later deletes(300, [&] { form.reset(); });
   EXPECT_EQ(zMessage(form.get(), "text", "caption", 0x24).result(), 7);
+  TestForm closed;
+  Later closes(300, [&] { closed.shutdown(); });
+  EXPECT_EQ(zMessage(closed.edit, "text", "caption", 0x24).result(), 7);
 }
 
 TEST(Message, BlocksOnlyTheHandlerThatRaisedIt) {
