@@ -1,5 +1,5 @@
-// A field for a text, with a picture or without. The variable bound to it may be null, and is used as
-// long as the field lives; the field shows it from its construction on.
+// A field for a text, with a picture or without. The variable bound to it may be null, and is used
+// as long as the field lives; the field shows it from its construction on.
 #pragma once
 
 #include <memory>
