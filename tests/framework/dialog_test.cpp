@@ -288,7 +288,10 @@ TEST(Form, AHandlerMayCloseItsDialogAndOpenAMessageBox) {
       answer = zMessage(app->rootWindow(), "text", "caption", 0x30).result();
       return 1;
     };
-    Later acts(600, [&] { trigger(*form); });
+    Later acts(100, [&] {
+      x_driver::show(*form);
+      trigger(*form);
+    });
     form->modal();
     EXPECT_EQ(answer, 1);
   }
