@@ -5,8 +5,8 @@
 #include <Xm/List.h>
 #include <Xm/Text.h>
 
+#include "framework/controls/text_paste.h"
 #include "framework/core/app.h"
-#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 zComboBoxBase* ziActiveCombo = nullptr;
@@ -70,7 +70,7 @@ int zComboBoxBase::create() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
-  addCallback(text, XmNdestinationCallback, pasteBeginsCB);
+  ziTakePastes(text);
   createLists(form, text, height);
   return 1;
 }
@@ -189,9 +189,8 @@ void zComboBoxBase::drop() {
   const zDimension size = dropSize();
   drop_->open(size, zAction<void>(this, &zComboBoxBase::pop));
   ziActiveCombo = this;
-  marked_ = selection();
   if (count() > 0) XmListSetPos(list(), 1);
-  showSelected(marked_);
+  showSelected(selection());
 }
 
 void zComboBoxBase::pop() {
@@ -210,7 +209,6 @@ void zComboBoxBase::ziResetPopup() {
 int zComboBoxBase::selection(int index) {
   if (!list() || index < -1 || index >= count()) return -1;
   setCurrent(index);
-  marked_ = index;
   showSelected(index);
   showText(itemText(index));
   return index;
@@ -242,7 +240,6 @@ void zComboBoxBase::doText(const char* value) {
 }
 
 void zComboBoxBase::currentRemoved() {
-  marked_ = -1;
   showText("");
 }
 
@@ -270,7 +267,6 @@ void zComboBoxBase::choose(int index, void* callData) {
 void zComboBoxBase::moveTo(int index) {
   if (!hasItem(index)) return;
   if (isOpen()) {
-    marked_ = index;
     showSelected(index);
   } else if (index != selection()) {
     choose(index, nullptr);
@@ -285,9 +281,17 @@ void zComboBoxBase::toggle(int) {
   }
 }
 
+int zComboBoxBase::marked() const {
+  int* positions = nullptr;
+  int count = 0;
+  if (!XmListGetSelectedPos(list(), &positions, &count)) return -1;
+  const int index = positions[0] - 1;
+  XtFree(reinterpret_cast<char*>(positions));
+  return index;
+}
+
 void zComboBoxBase::step(int items) {
-  const int from = isOpen() ? marked_ : selection();
-  moveTo(std::clamp(from + items, 0, std::max(count() - 1, 0)));
+  moveTo(std::clamp(marked() + items, 0, std::max(count() - 1, 0)));
 }
 
 void zComboBoxBase::stepPage(int pages) {
@@ -300,10 +304,10 @@ void zComboBoxBase::goToEnd(int last) {
 
 bool zComboBoxBase::takeMarked() {
   if (!isOpen()) return false;
-  if (marked_ < 0) {
+  if (marked() < 0) {
     pop();
   } else {
-    choose(marked_, nullptr);
+    choose(marked(), nullptr);
   }
   return true;
 }
@@ -347,7 +351,6 @@ void zComboBoxBase::changedCB(Widget, XtPointer link, XtPointer callData) {
       before >= 0 && ziTextOf(combo->textWidget()) != ziSafeText(combo->itemText(before));
   if (leftItem) {
     combo->setCurrent(-1);
-    combo->marked_ = -1;
     combo->showSelected(-1);
   }
   zWindowWatch watch(combo);
@@ -361,10 +364,6 @@ void zComboBoxBase::focusCB(Widget, XtPointer link, XtPointer callData) {
 
 void zComboBoxBase::activateCB(Widget, XtPointer link, XtPointer callData) {
   controlOf<zComboBoxBase>(link)->pressDefaultButton(callData);
-}
-
-void zComboBoxBase::pasteBeginsCB(Widget, XtPointer, XtPointer) {
-  ziSelectionAskedFor();
 }
 
 void zComboBoxBase::losingFocusCB(Widget text, XtPointer link, XtPointer callData) {

@@ -125,6 +125,7 @@ class zComboBoxBase : public ziItemControl {
   void step(int items);
   void stepPage(int pages);
   void goToEnd(int last);
+  int marked() const;  // the item that the list shows as selected, or -1
   bool takeMarked();
 
   static void arrowCB(Widget widget, XtPointer link, XtPointer callData);
@@ -133,14 +134,12 @@ class zComboBoxBase : public ziItemControl {
   static void cbDblClickCB(Widget widget, XtPointer link, XtPointer callData);
   static void modifyCB(Widget widget, XtPointer link, XtPointer callData);
   static void changedCB(Widget widget, XtPointer link, XtPointer callData);
-  static void pasteBeginsCB(Widget widget, XtPointer link, XtPointer callData);
   static void activateCB(Widget widget, XtPointer link, XtPointer callData);
   static void focusCB(Widget widget, XtPointer link, XtPointer callData);
   static void losingFocusCB(Widget widget, XtPointer link, XtPointer callData);
 
   Widget arrow_ = nullptr;
   std::unique_ptr<ziDropList> drop_;  // null for the simple kind
-  int marked_ = -1;                   // the item that the open list shows as selected
   unsigned semaphores_ = 0;
 };
 

@@ -56,8 +56,7 @@ bool zComboBoxBase::handleCharacter(const zKeyEvt& key) {
   }
   const std::string typed = ziCharactersOf(key.xEvent);
   if (typed.size() != 1 || !std::isprint(static_cast<unsigned char>(typed[0]))) return false;
-  const int from = isOpen() ? marked_ : selection();
-  moveTo(findPrefix(typed, from + 1));
+  moveTo(findPrefix(typed, marked() + 1));
   return true;
 }
 

@@ -4,6 +4,7 @@
 #include <Xm/RowColumn.h>
 #include <Xm/Text.h>
 
+#include "framework/controls/text_paste.h"
 #include "framework/core/app.h"
 #include "framework/core/x_text.h"
 
@@ -124,7 +125,7 @@ void zEditBase::createText() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
-  addCallback(text, XmNdestinationCallback, pasteBeginsCB);
+  ziTakePastes(text);
 }
 
 // Data transfer.
@@ -273,8 +274,10 @@ int zEditBase::editKey(zKeyEvt* event) {
               {XK_v, &zEditBase::paste},
               {XK_z, &zEditBase::undo}};
   if (!event->ctrl() || event->alt() || event->shift()) return 0;
+  KeySym plain = NoSymbol, capital = NoSymbol;
+  XConvertCase(event->code(), &plain, &capital);  // Caps Lock makes no difference
   for (const auto& known : keys) {
-    if (known.key == event->code()) return (this->*known.act)();
+    if (known.key == plain) return (this->*known.act)();
   }
   return 0;
 }

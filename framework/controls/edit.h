@@ -172,7 +172,6 @@ class zEditBase : public zControl {
   static void changedCB(Widget widget, XtPointer link, XtPointer callData);
   static void focusCB(Widget widget, XtPointer link, XtPointer callData);
   static void losingFocusCB(Widget widget, XtPointer link, XtPointer callData);
-  static void pasteBeginsCB(Widget widget, XtPointer link, XtPointer callData);
   static void activateCB(Widget widget, XtPointer link, XtPointer callData);
   static void tellScrolled(XtPointer link, unsigned code, XtPointer callData);
   static void horzScrollCB(Widget widget, XtPointer link, XtPointer callData);

@@ -15,7 +15,6 @@
 
 #include "framework/controls/edit.h"
 #include "framework/core/event_translation.h"
-#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 namespace {
@@ -216,10 +215,6 @@ void zEditBase::focusCB(Widget, XtPointer link, XtPointer callData) {
 
 void zEditBase::losingFocusCB(Widget, XtPointer link, XtPointer callData) {
   notifyParent(controlOf<zEditBase>(link), zNtfEditKillFocus, callData);
-}
-
-void zEditBase::pasteBeginsCB(Widget, XtPointer, XtPointer) {
-  ziSelectionAskedFor();
 }
 
 void zEditBase::tellScrolled(XtPointer link, unsigned code, XtPointer callData) {

@@ -13,6 +13,7 @@
 #include "framework/controls/button.h"
 #include "framework/core/errors.h"
 #include "framework/core/frame_window.h"
+#include "framework/core/widget_end.h"
 #include "framework/dialogs/control_types.h"
 #include "framework/drawing/color.h"
 #include "framework/drawing/font.h"
@@ -230,7 +231,7 @@ void zApp::go() {
   XtAppSetWarningHandler(context_, zAppErrorHandler);
   XtAppSetErrorHandler(context_, zAppFatalErrorHandler);
   XSetErrorHandler(zAppXlibErrorHandler);
-  while (zAppKeepRunning) XtAppProcessEvent(context_, XtIMAll);
+  while (zAppKeepRunning) ziProcessEvent();
 }
 
 void zApp::quit() {

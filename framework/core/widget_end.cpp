@@ -3,61 +3,74 @@
 #include <Xm/Xm.h>
 
 #include <algorithm>
-#include <chrono>
+#include <vector>
 
 #include "framework/core/app.h"
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-// A paste asks for the forms in which there is a selection, and then for one of them.
-constexpr int questionsOfAPaste = 2;
-
-Clock::time_point lastAnswer;  // when the last question asked will have been answered or given up
-
-unsigned long untilLastAnswer() {
-  const auto left = lastAnswer - Clock::now();
-  const auto ms = std::chrono::ceil<std::chrono::milliseconds>(left).count();
-  return static_cast<unsigned long>(std::max<long>(ms, 0));
-}
-
-struct Kept {
+struct Ending {
   Widget widget;
-  XtIntervalId timer;
+  int madeAt;
 };
 
-void destroyKept(XtPointer kept, XtIntervalId*) {
-  static_cast<Kept*>(kept)->timer = 0;
-  XtDestroyWidget(static_cast<Kept*>(kept)->widget);
+int depth = 0;
+std::vector<Ending> waiting;  // in the order in which they were given up
+std::vector<Widget> going;    // the toolkit destroys them at the end of an event
+
+bool isBelow(Widget widget, Widget top) {
+  while (widget && widget != top) widget = XtParent(widget);
+  return widget == top;
 }
 
-// By destroyKept, or with what it stood in.
-void keptIsDestroyed(Widget, XtPointer data, XtPointer) {
-  auto* kept = static_cast<Kept*>(data);
-  if (kept->timer) XtRemoveTimeOut(kept->timer);
-  delete kept;
+bool mayGo(const Ending& ending) {
+  const auto isInside = [&](Widget widget) { return isBelow(widget, ending.widget); };
+  return depth <= ending.madeAt && std::none_of(going.begin(), going.end(), isInside);
+}
+
+// By the toolkit after all, or with what it stood in.
+void isDestroyed(Widget widget, XtPointer, XtPointer) {
+  std::erase(going, widget);
+  std::erase_if(waiting, [widget](const Ending& ending) { return ending.widget == widget; });
+}
+
+void destroyDue() {
+  for (;;) {
+    const auto due = std::find_if(waiting.begin(), waiting.end(), mayGo);
+    if (due == waiting.end()) return;
+    const Widget widget = due->widget;
+    waiting.erase(due);
+    going.push_back(widget);
+    XtDestroyWidget(widget);
+  }
 }
 
 }  // namespace
 
-void ziSelectionAskedFor() {
-  const auto patience = std::chrono::milliseconds(XtAppGetSelectionTimeout(app->context()));
-  lastAnswer = Clock::now() + questionsOfAPaste * patience;
+void ziProcessEvent() {
+  XtAppProcessEvent(app->context(), XtIMAll);
+  destroyDue();
 }
 
-void ziDestroyWidget(Widget widget) {
+void ziRunLoop(const std::function<bool()>& goesOn) {
+  ++depth;
+  while (goesOn()) ziProcessEvent();
+  --depth;  // what may go now goes after the next event: the caller may still use it
+}
+
+int ziLoopDepth() {
+  return depth;
+}
+
+void ziDestroyWidget(Widget widget, int madeAt) {
   if (XtIsShell(widget)) {
     XtPopdown(widget);
   } else {
     XtUnmanageChild(widget);
   }
-  const unsigned long wait = untilLastAnswer();
-  if (wait == 0) {
-    XtDestroyWidget(widget);
-    return;
-  }
-  auto* kept = new Kept{widget, 0};
-  kept->timer = XtAppAddTimeOut(app->context(), wait, destroyKept, kept);
-  XtAddCallback(widget, XmNdestroyCallback, keptIsDestroyed, kept);
+  // A text takes the keyboard while the mouse selects in it, and does not give it back.
+  XtUngrabKeyboard(widget, CurrentTime);
+  XtAddCallback(widget, XmNdestroyCallback, isDestroyed, nullptr);
+  waiting.push_back({widget, madeAt});
+  destroyDue();
 }

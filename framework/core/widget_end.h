@@ -1,15 +1,24 @@
-// The end of widgets.
+// Loops of events, and the end of widgets inside them.
 #pragma once
 
 #include <X11/Intrinsic.h>
 
-// Takes a widget off the screen and destroys it with all below it. Its procedures have been taken
-// off before.
-//
-// A text that waits for a selection is called back when the answer comes or the time for it is up,
-// whether or not it is there still. So while an answer may be outstanding the widgets are kept,
-// unseen, until it no longer is.
-void ziDestroyWidget(Widget widget);
+#include <functional>
 
-// To be called when a text begins to ask for a selection.
-void ziSelectionAskedFor();
+// Waits for the application's next event and handles it: a step of the main loop.
+void ziProcessEvent();
+
+// Handles events while `goesOn`: a loop inside the main one, in a handler or before it begins.
+void ziRunLoop(const std::function<bool()>& goesOn);
+
+// How many loops run inside the main one, each in a handler of the one before.
+int ziLoopDepth();
+
+// Takes a widget off the screen and destroys it with all below it. Its procedures have been taken
+// off before. `madeAt` is the loop depth at which it was made.
+//
+// Inside a deeper loop one of the widget's procedures may be under way in the toolkit, which uses
+// the widget when the loop has ended; so it stays, unseen, until then. It also waits for the end of
+// what was destroyed before it and is below it, since the toolkit would destroy that twice when
+// the two come from different depths.
+void ziDestroyWidget(Widget widget, int madeAt);

@@ -29,7 +29,7 @@ zWindow::zWindow(zWindow* parent, zSizer* sizer, unsigned long style) : zWindow(
 }
 
 zWindow::zWindow(ziAdopt, zWindow* parent)
-    : parent_(parent), link_(std::make_unique<ziControlCB>()) {
+    : parent_(parent), link_(std::make_unique<ziControlCB>()), madeAt_(ziLoopDepth()) {
   ziSetType(zTypeWindow);
   link_->window = this;
   if (parent) font_ = parent->font_;
@@ -48,7 +48,7 @@ zWindow::~zWindow() {
 void zWindow::destroyWidgets(Widget top) {
   if (!destroyed_ && top) {
     unlisten();
-    ziDestroyWidget(top);
+    ziDestroyWidget(top, madeAt_);
   }
   mainWidget_ = nullptr;
   scrolledWidget_ = nullptr;
@@ -87,6 +87,7 @@ void zWindow::takeOver(zWindow* old) {
   title_ = old->title_;
   ctrlId_ = old->ctrlId_;
   eventMap_ = old->eventMap_;
+  madeAt_ = old->madeAt_;
   background_ = old->background_;
   style_ = old->style_;
   mainWidget_ = std::exchange(old->mainWidget_, nullptr);
@@ -118,6 +119,7 @@ void zWindow::addCallback(Widget widget, const char* list, XtCallbackProc proced
 }
 
 void zWindow::unlisten() {
+  releaseMouse();
   for (const auto& takeOff : takeOff_) takeOff();
   takeOff_.clear();
 }

@@ -170,6 +170,7 @@ class zWindow : public zEvH {
   // The widget tree goes or has gone already: nothing of it may be touched any more.
   void setDestroyed() { destroyed_ = true; }
   bool isDestroyed() const { return destroyed_; }
+  int madeAt() const { return madeAt_; }  // the loop depth, for the end of the widgets
 
  protected:
   zWindow(ziAdopt, zWindow* parent);
@@ -230,6 +231,7 @@ class zWindow : public zEvH {
   XtIntervalId pendingFocus_ = 0;
   bool captured_ = false;
   std::unique_ptr<ziControlCB> link_;
+  int madeAt_;
   std::vector<std::function<void()>> takeOff_;  // what unlisten() does
 };
 

@@ -74,7 +74,8 @@ zDialogFrame::~zDialogFrame() {
   // The shell takes all widgets below it along, so the children must not touch theirs.
   zComboBoxBase::ziResetPopup();
   zAppDoSetAllDestroyed(this);
-  if (!isRoot() && shell()) ziDestroyWidget(shell());
+  zMessage::closeOver(this);
+  if (!isRoot() && shell()) ziDestroyWidget(shell(), madeAt());
 }
 
 void zDialogFrame::unlisten() {
@@ -261,9 +262,7 @@ void zDialogFrame::modal(int style) {
   showTimeout();
   runningModals.push_back(this);
   zWindowWatch watch(this);
-  while (!watch.gone() && !finished_ && zAppKeepRunning) {
-    XtAppProcessEvent(app->context(), XtIMAll);
-  }
+  ziRunLoop([&] { return !watch.gone() && !finished_ && zAppKeepRunning; });
   runningModals.pop_back();
   --ziModalSem;
 }

@@ -7,6 +7,7 @@
 
 #include "framework/core/app.h"
 #include "framework/core/frame_window.h"
+#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 namespace {
@@ -127,17 +128,14 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   XtVaSetValues(XtParent(box), XmNmwmDecorations,
                 MWM_DECOR_BORDER | MWM_DECOR_TITLE | MWM_DECOR_MENU, XmNmwmFunctions,
                 MWM_FUNC_MOVE | MWM_FUNC_CLOSE, nullptr);
-  XtAddCallback(box, XmNdestroyCallback, destroyedCB, this);
   XtManageChild(box);
   XtPopup(XtParent(box), XtGrabNone);
-  while (!done_ && !destroyed_) XtAppProcessEvent(app->context(), XtIMAll);
-  if (destroyed_) return;
+  ziRunLoop([this] { return !done_; });
   // A widget hears what the user did up to now until it is gone, which may be long after this.
-  XtRemoveCallback(box, XmNdestroyCallback, destroyedCB, this);
   for (const Slot& slot : slots) XtRemoveCallback(box, slot.callback, buttonCB, this);
   XmRemoveWMProtocolCallback(XtParent(box), close, doClose, this);
   XtUnmanageChild(box);
-  XtDestroyWidget(XtParent(box));
+  ziDestroyWidget(XtParent(box), ziLoopDepth());
 }
 
 // One that stayed would go off the screen with the frame, and nobody could answer it.
@@ -145,13 +143,6 @@ void zMessage::closeOver(zFrameWin* frame) {
   for (const OpenBox* open : openBoxes) {
     if (open->isOver(frame)) open->box->answer(1);
   }
-}
-
-// The window that the box stands over was deleted, and the box with it: as if it had been closed.
-void zMessage::destroyedCB(Widget, XtPointer message, XtPointer) {
-  auto* self = static_cast<zMessage*>(message);
-  self->answer(1);
-  self->destroyed_ = true;
 }
 
 Widget zMessage::createBox(Widget shell, const char* text, const char* title, unsigned style) {

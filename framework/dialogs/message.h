@@ -26,7 +26,6 @@ class zMessage {
 
  private:
   static void buttonCB(Widget widget, XtPointer message, XtPointer callData);
-  static void destroyedCB(Widget widget, XtPointer message, XtPointer callData);
   static void doClose(Widget widget, XtPointer message, XtPointer callData);
   Widget createBox(Widget shell, const char* text, const char* title, unsigned style);
   void labelButtons(Widget box, unsigned style);
@@ -35,5 +34,4 @@ class zMessage {
   int result_ = 0;
   int buttonResults_[3] = {};
   bool done_ = false;
-  bool destroyed_ = false;
 };

@@ -6,6 +6,7 @@
 #include "framework/core/app.h"
 #include "framework/core/child_window.h"
 #include "framework/core/frame_window.h"
+#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 namespace {
@@ -44,7 +45,7 @@ ziToolHelper::ziToolHelper(const zFont* font)
 }
 
 ziToolHelper::~ziToolHelper() {
-  XtDestroyWidget(shell_);
+  ziDestroyWidget(shell_, ziLoopDepth());
 }
 
 void ziToolHelper::text(const std::string& text) {

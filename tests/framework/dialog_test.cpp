@@ -19,6 +19,7 @@
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
+#include "framework/core/widget_end.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/dialogs/message.h"
 #include "framework/layout/dialog_unit.h"
@@ -456,6 +457,56 @@ TEST(Modal, LoopsNestAndTimersRunOnTopOfThem) {
   EXPECT_TRUE(innerEnded);
   EXPECT_EQ(ticks, 1);
   EXPECT_EQ(ziModalSem, 0);
+}
+
+void countEnd(Widget, XtPointer ends, XtPointer) {
+  ++*static_cast<int*>(ends);
+}
+
+// The toolkit goes on using a button whose handler ran the loop.
+TEST(Modal, ADialogDeletedInALoopStaysUntilTheLoopEnds) {
+  auto dialog = std::make_unique<TestForm>();
+  int ends = 0;
+  bool loops = true;
+  XtAddCallback(dialog->shell(), XmNdestroyCallback, countEnd, &ends);
+  Later deletes(20, [&] { dialog.reset(); });
+  Later leaves(100, [&] { loops = false; });
+  ziRunLoop([&] { return loops; });
+  EXPECT_EQ(ends, 0);
+  EXPECT_TRUE(x_driver::waitUntil([&] { return ends == 1; }));
+}
+
+// Gives up one shell after the other, each in an event that is dispatched inside the one before.
+struct Nest {
+  static void handle(Widget, XtPointer nest, XEvent* event, Boolean*) {
+    auto* self = static_cast<Nest*>(nest);
+    ziDestroyWidget(self->given.back(), ziLoopDepth());
+    self->given.pop_back();
+    if (!self->given.empty()) XtDispatchEvent(event);
+  }
+  std::vector<Widget> given;
+};
+
+// By itself the toolkit destroys one of the inner two twice then.
+TEST(Modal, ShellsGivenUpInNestedEventsFromTheInsideOutGoOnce) {
+  int ends = 0;
+  const auto shellIn = [&](Widget over) {
+    const Widget shell = XtCreatePopupShell("shell", transientShellWidgetClass, over, nullptr, 0);
+    XtAddCallback(shell, XmNdestroyCallback, countEnd, &ends);
+    return shell;
+  };
+  const Widget root = app->rootWindow()->shell();
+  const Widget outer = shellIn(root);
+  Nest nest{{outer, shellIn(outer), shellIn(outer)}};
+  XtAddEventHandler(root, NoEventMask, True, Nest::handle, &nest);
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.display = app->display();
+  event.xclient.window = XtWindow(root);
+  event.xclient.format = 32;
+  XtDispatchEvent(&event);
+  XtRemoveEventHandler(root, NoEventMask, True, Nest::handle, &nest);
+  EXPECT_TRUE(x_driver::waitUntil([&] { return ends == 3; }));
 }
 
 struct Refuser : zEvH {

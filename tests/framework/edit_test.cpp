@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "framework/core/errors.h"
 #include "tests/framework/edit_form.h"
 
 namespace {
@@ -147,27 +148,73 @@ TEST(Edit, ShowsOnlyWhatAWidgetCanTake) {
   EXPECT_EQ(XmTextGetMaxLength(field.drawnWidget()), 32000);
 }
 
-TEST(Edit, IsKeptUntilNoAnswerToAPasteCanCome) {
-  Display* const silent = XOpenDisplay(DisplayString(app->display()));
-  const Window owner = XCreateSimpleWindow(silent, DefaultRootWindow(silent), 0, 0, 1, 1, 0, 0, 0);
-  XSetSelectionOwner(silent, XA_PRIMARY, owner, CurrentTime);
-  XSync(silent, False);
-  const unsigned long patience = XtAppGetSelectionTimeout(app->context());
-  XtAppSetSelectionTimeout(app->context(), 200);
+// Another program that has the primary selection and takes its time.
+class SlowOwner {
+ public:
+  SlowOwner()
+      : display_(XOpenDisplay(DisplayString(app->display()))),
+        window_(XCreateSimpleWindow(display_, DefaultRootWindow(display_), 0, 0, 1, 1, 0, 0, 0)) {
+    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });  // the field may have gone
+    XSetSelectionOwner(display_, XA_PRIMARY, window_, CurrentTime);
+    XSync(display_, False);
+  }
+  ~SlowOwner() {
+    XCloseDisplay(display_);
+    XSetErrorHandler(zAppXlibErrorHandler);
+  }
+  bool isAsked() {
+    XEvent event;
+    if (!XCheckTypedEvent(display_, SelectionRequest, &event)) return false;
+    asked_ = event.xselectionrequest;
+    return true;
+  }
+  void answer(const char* text) {
+    XChangeProperty(display_, asked_.requestor, asked_.property, XA_STRING, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(text),
+                    static_cast<int>(std::strlen(text)));
+    XEvent told{};
+    told.xselection = {SelectionNotify,
+                       0,
+                       False,
+                       display_,
+                       asked_.requestor,
+                       asked_.selection,
+                       asked_.target,
+                       asked_.property,
+                       asked_.time};
+    XSendEvent(display_, asked_.requestor, False, NoEventMask, &told);
+    XSync(display_, False);
+  }
+
+ private:
+  Display* display_;
+  Window window_;
+  XSelectionRequestEvent asked_{};
+};
+
+TEST(Edit, TakesALateAnswerToItsLastQuestionOnly) {
+  SlowOwner owner;
   auto form = std::make_unique<Form>();
   auto* field = new zEditLine(form.get(), firstId);
   ASSERT_TRUE(form->start(*field));
-  x_driver::click(*field, inText, 2);
-  bool gone = false;
-  XtAddCallback(
-      field->drawnWidget(), XmNdestroyCallback,
-      [](Widget, XtPointer told, XtPointer) { *static_cast<bool*>(told) = true; }, &gone);
-  form.reset();
+  const auto paste = [&] {
+    x_driver::click(*field, inText, 2);
+    return x_driver::waitUntil([&] { return owner.isAsked(); });
+  };
+  field->text("abc");
+  ASSERT_TRUE(paste());
+  field->selection(0, 2);  // which takes the selection from its owner meanwhile
+  owner.answer("late");
+  EXPECT_TRUE(x_driver::waitUntil([&] { return field->getText() == "abclate"; }));
+  owner.answer("twice");
   x_driver::settle();
-  EXPECT_FALSE(gone);
-  EXPECT_TRUE(x_driver::waitUntil([&] { return gone; }));
-  XtAppSetSelectionTimeout(app->context(), patience);
-  XCloseDisplay(silent);
+  EXPECT_EQ(field->getText(), "abclate");
+  SlowOwner next;
+  x_driver::click(*field, inText, 2);
+  ASSERT_TRUE(x_driver::waitUntil([&] { return next.isAsked(); }));
+  form.reset();
+  next.answer("too late");
+  x_driver::settle();
 }
 
 // A field that notes its keys, refuses digits and turns 'x' into 'y'.

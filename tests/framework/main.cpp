@@ -8,7 +8,6 @@
 namespace {
 
 constexpr unsigned long rootStyle = 0x80CE0000;
-constexpr unsigned long selectionPatienceMs = 500;  // dialogs are kept for as long after a paste
 int result = 1;
 
 }  // namespace
@@ -16,7 +15,6 @@ int result = 1;
 // Test dialogs stand over app->rootWindow().
 void zApp::zAppEntry() {
   initIntPack();
-  XtAppSetSelectionTimeout(app->context(), selectionPatienceMs);
   zDialogFrame root(nullptr, new zSizer(900, 700, 120, 40, nullptr), rootStyle, "Tests", 0);
   root.setFont(std::make_shared<zFont>("Helv", zPrPoint(0, 100), zFontSpec::weightBold), 0);
   if (x_driver::show(root)) result = RUN_ALL_TESTS();

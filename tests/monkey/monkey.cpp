@@ -93,24 +93,17 @@ void Monkey::keepInPlay() {
 
 void Monkey::finish() {
   XkbLockModifiers(display_, XkbUseCoreKbd, ~0U, 0);
-  // A window that a modal one blocks takes its turn when that has gone.
-  for (int round = 0; round < roundsOfClosing && lookAround() && closeOthers(); ++round) {
-    std::this_thread::sleep_for(pauseBetweenRounds);
-  }
   const Atom done = XInternAtom(display_, monkeyDone, False);
   XChangeProperty(display_, stage_.main(), done, done, 32, PropModeReplace, nullptr, 0);
-  send(stage_.main(), "WM_DELETE_WINDOW");
-  XSync(display_, False);
-}
-
-bool Monkey::closeOthers() {
-  bool any = false;
-  for (const Stage::TopLevel& t : stage_.topLevels()) {
-    if (!t.managed || t.window == stage_.main()) continue;
-    send(t.window, "WM_DELETE_WINDOW");
-    any = true;
+  // A window that a modal one blocks takes its turn when that has gone, and a late one when it
+  // comes.
+  for (int round = 0; round < roundsOfClosing && lookAround(); ++round) {
+    for (const Stage::TopLevel& t : stage_.topLevels()) {
+      if (t.managed) send(t.window, "WM_DELETE_WINDOW");
+    }
+    XSync(display_, False);
+    std::this_thread::sleep_for(pauseBetweenRounds);
   }
-  return any || !stage_.isMainShown();
 }
 
 // Chance.

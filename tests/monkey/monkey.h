@@ -21,7 +21,7 @@ class Monkey {
 
   // Sends the next event. False when the program has gone.
   bool play();
-  // Closes all windows but the main one, turns the locks off, and lets the program end.
+  // Turns the locks off, lets the program end, and closes its windows until it does.
   void finish();
 
   long eventsPlayed() const { return played_; }
@@ -40,8 +40,6 @@ class Monkey {
 
   bool lookAround();
   void keepInPlay();
-  // Asks all windows but the main one to close. False when there are no others.
-  bool closeOthers();
 
   void typeCharacter();
   void typeControl();

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "framework/core/app.h"
+#include "framework/core/widget_end.h"
 #include "framework/dialogs/dialog_frame.h"
 
 namespace x_driver {
@@ -92,13 +93,13 @@ bool waitUntil(const std::function<bool()>& done, int milliseconds) {
     if (done()) return true;
     bool fired = false;
     XtAppAddTimeOut(app->context(), tickMs, tick, &fired);
-    while (!fired) XtAppProcessEvent(app->context(), XtIMAll);
+    while (!fired) ziProcessEvent();
   }
   return done();
 }
 
 void handlePending() {
-  while (XtAppPending(app->context())) XtAppProcessEvent(app->context(), XtIMAll);
+  while (XtAppPending(app->context())) ziProcessEvent();
 }
 
 void settle() {

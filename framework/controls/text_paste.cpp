@@ -1,0 +1,111 @@
+#include "framework/controls/text_paste.h"
+
+#include <X11/Xatom.h>
+#include <Xm/Text.h>
+#include <Xm/Transfer.h>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "framework/core/x_text.h"
+
+namespace {
+
+constexpr long longestPaste = 256 * 1024;  // bytes
+
+struct Question {
+  Atom selection;
+  Time time;
+  bool moves;
+  std::optional<XmTextPosition> place;  // where the pointer was
+};
+
+// What a text has asked for and got no answer to. Belongs to the widget.
+struct Pastes {
+  std::optional<Question> pending;
+};
+
+Atom atom(Widget widget, const char* name) {
+  return XInternAtom(XtDisplay(widget), name, False);
+}
+
+Atom answerProperty(Widget text) {
+  return atom(text, "TEXT_PASTE");
+}
+
+void convert(Widget text, const Question& question, Atom target) {
+  XConvertSelection(XtDisplay(text), question.selection, target, answerProperty(text),
+                    XtWindow(text), question.time);
+}
+
+// The range that a paste replaces. None when that would put a selection into itself.
+std::optional<std::pair<XmTextPosition, XmTextPosition>> rangeFor(Widget text,
+                                                                  const Question& question) {
+  XmTextPosition left = 0, right = 0;
+  const bool selected = XmTextGetSelectionPosition(text, &left, &right) && left != right;
+  const bool itself = selected && question.selection == XA_PRIMARY;
+  const XmTextPosition at = std::min(question.place.value_or(XmTextGetInsertionPosition(text)),
+                                     XmTextGetLastPosition(text));
+  if (itself && left < at && at < right) return std::nullopt;
+  if (selected && !itself && !question.place) return {{left, right}};
+  return {{at, at}};
+}
+
+std::string answerTo(Widget text) {
+  Atom type = None;
+  int format = 0;
+  unsigned long length = 0, left = 0;
+  unsigned char* value = nullptr;
+  XGetWindowProperty(XtDisplay(text), XtWindow(text), answerProperty(text), 0, longestPaste / 4,
+                     True, AnyPropertyType, &type, &format, &length, &left, &value);
+  const std::unique_ptr<unsigned char, int (*)(void*)> owned(value, XFree);
+  if (!value || type != XA_STRING || format != 8) return {};
+  return ziSafeText({reinterpret_cast<const char*>(value), length});
+}
+
+void insert(Widget text, const Question& question, std::string answer) {
+  if (answer.empty() || !XmTextGetEditable(text) || !XtIsSensitive(text)) return;
+  const auto range = rangeFor(text, question);
+  if (!range) return;
+  XmTextSetInsertionPosition(text, range->second);
+  XmTextReplace(text, range->first, range->second, answer.data());
+  if (question.moves) convert(text, question, atom(text, "DELETE"));
+}
+
+void answered(Widget text, XtPointer data, XEvent* event, Boolean*) {
+  if (event->type != SelectionNotify) return;
+  auto& pending = static_cast<Pastes*>(data)->pending;
+  const XSelectionEvent& answer = event->xselection;
+  if (!pending || answer.selection != pending->selection || answer.time != pending->time) return;
+  if (answer.property != None && answer.property != answerProperty(text)) return;
+  const Question question = *pending;
+  pending.reset();
+  if (answer.property != None) insert(text, question, answerTo(text));
+}
+
+void pasteBegins(Widget text, XtPointer data, XtPointer callData) {
+  const auto& paste = *static_cast<XmDestinationCallbackStruct*>(callData);
+  XmTransferDone(paste.transfer_id, XmTRANSFER_DONE_FAIL);
+  if (!XtIsRealized(text)) return;
+  Question question{paste.selection, paste.time, paste.operation == XmMOVE, {}};
+  if (const auto* at = static_cast<const XPoint*>(paste.location_data)) {
+    question.place = XmTextXYToPos(text, at->x, at->y);
+  }
+  static_cast<Pastes*>(data)->pending = question;
+  convert(text, question, XA_STRING);
+}
+
+void textGoes(Widget, XtPointer pastes, XtPointer) {
+  delete static_cast<Pastes*>(pastes);
+}
+
+}  // namespace
+
+void ziTakePastes(Widget text) {
+  auto* pastes = new Pastes;
+  XtAddCallback(text, XmNdestinationCallback, pasteBegins, pastes);
+  XtAddEventHandler(text, NoEventMask, True, answered, pastes);
+  XtAddCallback(text, XmNdestroyCallback, textGoes, pastes);
+}
