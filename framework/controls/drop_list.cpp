@@ -88,10 +88,11 @@ void ziDropList::grabPointer(Window window, bool ownerEvents) const {
                XtLastTimestampProcessed(app->display()));
 }
 
-bool ziDropList::isOwners(Window window) const {
+// Another shell's windows are not in the widget that it was made below.
+bool ziDropList::isIn(Widget top, Window window) {
   Widget widget = XtWindowToWidget(app->display(), window);
-  while (widget && widget != owner_ && !XtIsShell(widget)) widget = XtParent(widget);
-  return widget == owner_;
+  while (widget && widget != top && !XtIsShell(widget)) widget = XtParent(widget);
+  return widget == top;
 }
 
 // A press inside holds the pointer in its window until the release, as it would without the list's
@@ -99,11 +100,12 @@ bool ziDropList::isOwners(Window window) const {
 Boolean ziDropList::pressed(XEvent* event) {
   const XButtonEvent& press = event->xbutton;
   ziDropList& list = *openList;
-  if (list.place_.contains({press.x_root, press.y_root})) {
+  const bool inside = list.place_.contains({press.x_root, press.y_root});
+  if (inside && isIn(list.shell_, press.window)) {
     list.grabPointer(press.window, false);
     return passOn(event);
   }
-  const bool ends = press.window == XtWindow(list.shell_) || list.isOwners(press.window);
+  const bool ends = press.window == XtWindow(list.shell_) || isIn(list.owner_, press.window);
   list.dismissed_();
   return ends ? True : passOn(event);
 }

@@ -35,7 +35,7 @@ class ziDropList {
  private:
   zRect place(zDimension size) const;
   void grabPointer(Window window, bool ownerEvents) const;
-  bool isOwners(Window window) const;
+  static bool isIn(Widget top, Window window);
   static Boolean pressed(XEvent* event);
   static Boolean released(XEvent* event);
   static Boolean focusMoved(XEvent* event);

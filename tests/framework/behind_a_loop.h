@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <string_view>
 #include <utility>
 
 #include <X11/Intrinsic.h>
@@ -19,6 +21,31 @@ class Later : public zEvH {
   void run() { action_(); }
   std::function<void()> action_;
   zOneShotTimer timer_;
+};
+
+// Answers a message box as soon as that has the keyboard.
+class AnswersBox : public zEvH {
+ public:
+  explicit AnswersBox(std::function<void()> action)
+      : action_(std::move(action)),
+        timer_(std::make_unique<zTimer>(this, &AnswersBox::look, lookEveryMs)) {}
+
+ private:
+  static constexpr unsigned long lookEveryMs = 50;
+
+  void look() {
+    Window focused = None;
+    int revert = 0;
+    XGetInputFocus(app->display(), &focused, &revert);
+    Widget shell = XtWindowToWidget(app->display(), focused);
+    while (shell && !XtIsShell(shell)) shell = XtParent(shell);
+    if (!shell || std::string_view(XtName(shell)) != "MessageBox_popup") return;
+    timer_.reset();
+    action_();
+  }
+
+  std::function<void()> action_;
+  std::unique_ptr<zTimer> timer_;
 };
 
 // Asks a shell to close, as the window manager's menu does.

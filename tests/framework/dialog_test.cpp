@@ -285,7 +285,7 @@ TEST(Form, AHandlerMayCloseItsDialogAndOpenAMessageBox) {
         XClearArea(app->display(), dying, 0, 0, 0, 0, True);
         XUnmapWindow(app->display(), dying);
       }
-      Later answers(400, [] { x_driver::key(XK_Return); });
+      AnswersBox answers([] { x_driver::key(XK_Return); });
       answer = zMessage(app->rootWindow(), "text", "caption", 0x30).result();
       return 1;
     };
@@ -423,7 +423,7 @@ struct Interrupted : zEvH {
   void tick() {
     if (++ticks != 5) return;
     Later deletes(50, [this] { timer.reset(); });
-    Later answers(400, [] { x_driver::key(XK_Return); });
+    AnswersBox answers([] { x_driver::key(XK_Return); });
     answer = zMessage(app->rootWindow(), "text", "caption", 0x30).result();
   }
   int ticks = 0;
@@ -561,7 +561,7 @@ TEST(Message, ReturnsTheAnswerOfEachType) {
       {0x45, {XK_Return}, 4},        {0x0F, {XK_Escape}, 2}, {0x00, {XK_Escape}, 1},
   };
   for (const BoxCase& c : cases) {
-    Later answers(400, [&] {
+    AnswersBox answers([&] {
       for (const KeySym k : c.keys) x_driver::key(k);
     });
     const zMessage box(app->rootWindow(), "Two\nlines", "Caption", c.style);
@@ -591,7 +591,7 @@ TEST(Message, ClosingItIsItsSecondAnswer) {
                {0x05, 2, MWM_INPUT_PRIMARY_APPLICATION_MODAL}};
   for (const auto& c : cases) {
     int modality = 0, decorations = 0;
-    Later closes(200, [&] {
+    AnswersBox closes([&] {
       const Widget box = shownBox();
       XtVaGetValues(box, XmNmwmInputMode, &modality, XmNmwmDecorations, &decorations, nullptr);
       closeAsTheWindowManager(box);
@@ -619,7 +619,7 @@ TEST(Message, BlocksOnlyTheHandlerThatRaisedIt) {
   TestForm form;
   int answer = 0;
   Later raises(50, [&] {
-    Later answers(500, [] { x_driver::key(XK_Return); });
+    AnswersBox answers([] { x_driver::key(XK_Return); });
     answer = zMessage(&form, "text", "caption", 0x30).result();
     form.shutdown();
   });
@@ -633,15 +633,15 @@ class AsksTwice : public zEvH {
  public:
   int ask(zNotifyEvt*) {
     Widget first = nullptr;
-    Later answersFirst(300, [&] {
+    AnswersBox answersFirst([&] {
       first = XtNameToWidget(shownBox(), "MessageBox");
       x_driver::key(XK_Return);
     });
     zMessage(app->rootWindow(), "first", "caption", 0x24);
-    Later clicksFirstAgain(300, [&] {
+    AnswersBox clicksFirstAgain([&] {
       XmAnyCallbackStruct click{XmCR_OK, nullptr};
       XtCallCallbacks(first, XmNokCallback, &click);
-      Later answersSecond(100, [] { x_driver::key(XK_Escape); });
+      AnswersBox answersSecond([] { x_driver::key(XK_Escape); });
       x_driver::waitUntil([] { return !shownBox(); }, 1000);
     });
     second = zMessage(app->rootWindow(), "second", "caption", 0x24).result();

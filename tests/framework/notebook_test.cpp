@@ -312,7 +312,7 @@ TEST(Notebook, IsModalBelowAMessage) {
   Notebook notebook;
   int answer = 0;
   Later raises(500, [&] {
-    Later answers(500, [] { x_driver::key(XK_Return); });
+    AnswersBox answers([] { x_driver::key(XK_Return); });
     answer = zMessage(&notebook, "text", "caption", 0x30).result();
     EXPECT_FALSE(notebook.isFinished());
     app->quit();
