@@ -5,7 +5,7 @@
 #include <Xm/List.h>
 #include <Xm/Text.h>
 
-#include "framework/controls/text_paste.h"
+#include "framework/controls/text_transfer.h"
 #include "framework/core/app.h"
 #include "framework/core/x_text.h"
 

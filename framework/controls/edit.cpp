@@ -4,7 +4,7 @@
 #include <Xm/RowColumn.h>
 #include <Xm/Text.h>
 
-#include "framework/controls/text_paste.h"
+#include "framework/controls/text_transfer.h"
 #include "framework/core/app.h"
 #include "framework/core/x_text.h"
 
@@ -252,32 +252,36 @@ void zEditBase::replaceSelection(const char* text) {
 }
 
 int zEditBase::cut() {
-  return textWidget() && XmTextCut(textWidget(), XtLastTimestampProcessed(app->display()));
+  if (!textWidget() || !XmTextGetEditable(textWidget()) || !copy()) return 0;
+  XmTextRemove(textWidget());
+  return 1;
 }
 
 int zEditBase::copy() {
-  return textWidget() && XmTextCopy(textWidget(), XtLastTimestampProcessed(app->display()));
+  const std::string chosen = getSelection();
+  return !chosen.empty() && ziCopyToClipboard(chosen);
 }
 
 int zEditBase::paste() {
   return textWidget() && XmTextPaste(textWidget());
 }
 
-// The keys that the widget has no binding for. It would insert their control characters, which are
-// refused.
+// The widget would insert the control characters of some, which are refused, and knows none of this
+// clipboard. Caps Lock makes no difference.
 int zEditBase::editKey(zKeyEvt* event) {
   static constexpr struct {
     KeySym key;
+    bool shift;  // else Control
     int (zEditBase::*act)();
-  } keys[] = {{XK_x, &zEditBase::cut},
-              {XK_c, &zEditBase::copy},
-              {XK_v, &zEditBase::paste},
-              {XK_z, &zEditBase::undo}};
-  if (!event->ctrl() || event->alt() || event->shift()) return 0;
+  } keys[] = {{XK_x, false, &zEditBase::cut},   {XK_Delete, true, &zEditBase::cut},
+              {XK_c, false, &zEditBase::copy},  {XK_Insert, false, &zEditBase::copy},
+              {XK_v, false, &zEditBase::paste}, {XK_Insert, true, &zEditBase::paste},
+              {XK_z, false, &zEditBase::undo}};
+  if (event->alt() || event->shift() == event->ctrl()) return 0;
   KeySym plain = NoSymbol, capital = NoSymbol;
-  XConvertCase(event->code(), &plain, &capital);  // Caps Lock makes no difference
+  XConvertCase(event->code(), &plain, &capital);
   for (const auto& known : keys) {
-    if (known.key == plain) return (this->*known.act)();
+    if (known.key == plain && known.shift == event->shift()) return (this->*known.act)();
   }
   return 0;
 }

@@ -59,7 +59,8 @@ class zEditBase : public zControl {
   virtual void selection(int start, int end);
   std::string getSelection() const;
   // Edits as the user makes them, with all that follows; cut, copy and paste answer whether there
-  // was something to do. Their keys are Control-X, C and V, beside those of the toolkit.
+  // was something to do. Their keys are Control-X, C and V, and
+  // Shift-Delete, Control-Insert and Shift-Insert.
   void replaceSelection(const char* text);
   int cut();
   int copy();

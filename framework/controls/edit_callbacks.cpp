@@ -41,7 +41,6 @@ std::string insertedText(const XmTextVerifyCallbackStruct& verify) {
 zKeyEvt keyEventOf(zWindow* window, XEvent* event, unsigned message, long character) {
   zKeyEvt key;
   if (isKey(event)) key = ziKeyEvent(window, event, message);
-  key.xEvent = event;
   key.message = message;
   key.window = window;
   key.parm1 = character;

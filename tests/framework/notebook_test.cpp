@@ -17,6 +17,7 @@
 #include "framework/resources/resources.h"
 #include "framework/table/table.h"
 #include "tests/framework/behind_a_loop.h"
+#include "tests/support/live_timers.h"
 #include "tests/support/x_driver.h"
 
 namespace {
@@ -347,6 +348,7 @@ constexpr long keptByTheLibrary = 4 * 48 + 2 * 112 / 4;
 TEST(Notebook, LeavesNothingBehind) {
   constexpr int windows = 5, cycles = 40;
   int resources = 0;
+  const int timers = liveTimers();
   long grown = LONG_MAX;  // by a cycle; the least of some windows, as what comes once is no leak
   for (int window = 0; window <= windows; ++window) {
     const long before = heapInUse();
@@ -367,6 +369,7 @@ TEST(Notebook, LeavesNothingBehind) {
   EXPECT_EQ(serverResources(), resources);
   // Nothing that was to happen soon looks for a window that is gone.
   x_driver::waitUntil([] { return false; }, zDialogFrame::showDelayMs + 100);
+  EXPECT_EQ(liveTimers(), timers);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "framework/controls/text_paste.h"
+#include "framework/controls/text_transfer.h"
 
 #include <X11/Xatom.h>
 #include <Xm/Text.h>
@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 
+#include "framework/core/app.h"
+#include "framework/core/frame_window.h"
 #include "framework/core/x_text.h"
 
 namespace {
@@ -87,12 +89,14 @@ void answered(Widget text, XtPointer data, XEvent* event, Boolean*) {
 
 void pasteBegins(Widget text, XtPointer data, XtPointer callData) {
   const auto& paste = *static_cast<XmDestinationCallbackStruct*>(callData);
-  XmTransferDone(paste.transfer_id, XmTRANSFER_DONE_FAIL);
-  if (!XtIsRealized(text)) return;
   Question question{paste.selection, paste.time, paste.operation == XmMOVE, {}};
-  if (const auto* at = static_cast<const XPoint*>(paste.location_data)) {
-    question.place = XmTextXYToPos(text, at->x, at->y);
-  }
+  // The widget makes a place for its own transfer, whose end would have freed it.
+  const std::unique_ptr<XPoint, void (*)(XPoint*)> at(
+      static_cast<XPoint*>(paste.location_data),
+      [](XPoint* place) { XtFree(reinterpret_cast<char*>(place)); });
+  XmTransferDone(paste.transfer_id, XmTRANSFER_DONE_FAIL);
+  if (at) question.place = XmTextXYToPos(text, at->x, at->y);
+  if (!XtIsRealized(text)) return;
   static_cast<Pastes*>(data)->pending = question;
   convert(text, question, XA_STRING);
 }
@@ -101,7 +105,45 @@ void textGoes(Widget, XtPointer pastes, XtPointer) {
   delete static_cast<Pastes*>(pastes);
 }
 
+// The clipboard.
+
+std::string& clipboard() {
+  static std::string text;
+  return text;
+}
+
+template <class T>
+void give(const T* from, std::size_t count, XtPointer* value, unsigned long* length) {
+  *value = XtMalloc(static_cast<Cardinal>(std::max(count * sizeof(T), sizeof(T))));
+  std::copy_n(from, count, static_cast<T*>(*value));
+  *length = count;
+}
+
+Boolean offerClipboard(Widget owner, Atom*, Atom* target, Atom* type, XtPointer* value,
+                       unsigned long* length, int* format) {
+  const Atom targets = atom(owner, "TARGETS"), utf8 = atom(owner, "UTF8_STRING");
+  if (*target == targets) {
+    const Atom known[] = {targets, XA_STRING, utf8};
+    give(known, std::size(known), value, length);
+    *type = XA_ATOM;
+    *format = 32;
+    return True;
+  }
+  if (*target != XA_STRING && *target != utf8) return False;
+  give(clipboard().data(), clipboard().size(), value, length);
+  *type = *target;
+  *format = 8;
+  return True;
+}
+
 }  // namespace
+
+bool ziCopyToClipboard(const std::string& text) {
+  const Widget owner = app->rootWindow()->shell();
+  clipboard() = text;
+  return XtOwnSelection(owner, atom(owner, "CLIPBOARD"), XtLastTimestampProcessed(app->display()),
+                        offerClipboard, nullptr, nullptr);
+}
 
 void ziTakePastes(Widget text) {
   auto* pastes = new Pastes;

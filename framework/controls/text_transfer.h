@@ -1,7 +1,9 @@
-// How text gets from a selection into a text widget.
+// Text on its way between the widgets and the selections of the display.
 #pragma once
 
 #include <X11/Intrinsic.h>
+
+#include <string>
 
 // Makes every paste into an XmText (by key, middle button or call) one of the program's own: Motif
 // begins it, and is told that it is done. Its own transfer, and the toolkit's below it, end in
@@ -12,3 +14,7 @@
 // delete its text then. A later paste into the same text takes an unanswered one's place. For the
 // widget's callbacks it is a change by the program.
 void ziTakePastes(Widget text);
+
+// Puts a text on the clipboard for as long as the program runs or until somebody else copies. False
+// when the display refuses.
+bool ziCopyToClipboard(const std::string& text);
