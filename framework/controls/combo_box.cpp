@@ -70,7 +70,7 @@ int zComboBoxBase::create() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
-  ziTakePastes(text);
+  ziUseSelections(text);
   createLists(form, text, height);
   return 1;
 }
@@ -340,7 +340,14 @@ int zComboBoxBase::mouseButtonDown(zMouseClickEvt* event) {
 
 void zComboBoxBase::modifyCB(Widget, XtPointer link, XtPointer callData) {
   auto* combo = controlOf<zComboBoxBase>(link);
-  if (!(combo->semaphores_ & settingText)) notifyParent(combo, zNtfComboEditUpdate, callData);
+  if (combo->semaphores_ & settingText) return;
+  auto& change = *static_cast<XmTextVerifyCallbackStruct*>(callData);
+  const std::string inserted = ziInsertedText(change);
+  if (ziSafeText(inserted) != inserted) {
+    change.doit = False;  // a control character: a key that nobody took
+  } else {
+    notifyParent(combo, zNtfComboEditUpdate, callData);
+  }
 }
 
 void zComboBoxBase::changedCB(Widget, XtPointer link, XtPointer callData) {

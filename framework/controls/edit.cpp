@@ -125,7 +125,7 @@ void zEditBase::createText() {
   addCallback(text, XmNfocusCallback, focusCB);
   addCallback(text, XmNlosingFocusCallback, losingFocusCB);
   addCallback(text, XmNactivateCallback, activateCB);
-  ziTakePastes(text);
+  ziUseSelections(text);
 }
 
 // Data transfer.
@@ -239,10 +239,7 @@ void zEditBase::selection(int start, int end) {
 }
 
 std::string zEditBase::getSelection() const {
-  char* chosen = textWidget() ? XmTextGetSelection(textWidget()) : nullptr;
-  std::string copy(chosen ? chosen : "");
-  XtFree(chosen);
-  return copy;
+  return textWidget() ? ziSelectedText(textWidget()) : "";
 }
 
 void zEditBase::replaceSelection(const char* text) {
@@ -252,41 +249,25 @@ void zEditBase::replaceSelection(const char* text) {
 }
 
 int zEditBase::cut() {
-  if (!textWidget() || !XmTextGetEditable(textWidget()) || !copy()) return 0;
-  XmTextRemove(textWidget());
-  return 1;
+  return textWidget() && ziCutText(textWidget());
 }
 
 int zEditBase::copy() {
-  const std::string chosen = getSelection();
-  return !chosen.empty() && ziCopyToClipboard(chosen);
+  return textWidget() && ziCopyText(textWidget());
 }
 
 int zEditBase::paste() {
   return textWidget() && XmTextPaste(textWidget());
 }
 
-// The widget would insert the control characters of some, which are refused, and knows none of this
-// clipboard. Caps Lock makes no difference.
-int zEditBase::editKey(zKeyEvt* event) {
-  static constexpr struct {
-    KeySym key;
-    bool shift;  // else Control
-    int (zEditBase::*act)();
-  } keys[] = {{XK_x, false, &zEditBase::cut},   {XK_Delete, true, &zEditBase::cut},
-              {XK_c, false, &zEditBase::copy},  {XK_Insert, false, &zEditBase::copy},
-              {XK_v, false, &zEditBase::paste}, {XK_Insert, true, &zEditBase::paste},
-              {XK_z, false, &zEditBase::undo}};
-  if (event->alt() || event->shift() == event->ctrl()) return 0;
-  KeySym plain = NoSymbol, capital = NoSymbol;
-  XConvertCase(event->code(), &plain, &capital);
-  for (const auto& known : keys) {
-    if (known.key == plain && known.shift == event->shift()) return (this->*known.act)();
-  }
-  return 0;
-}
-
 // Undo.
+
+int zEditBase::editKey(zKeyEvt* event) {
+  KeySym plain = NoSymbol, capital = NoSymbol;
+  XConvertCase(event->code(), &plain, &capital);  // Caps Lock makes no difference
+  const bool undoes = plain == XK_z && event->ctrl() && !event->alt() && !event->shift();
+  return undoes && undo();
+}
 
 int zEditBase::undo() {
   if (!canUndo() || !textWidget()) return 0;

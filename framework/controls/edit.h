@@ -59,8 +59,7 @@ class zEditBase : public zControl {
   virtual void selection(int start, int end);
   std::string getSelection() const;
   // Edits as the user makes them, with all that follows; cut, copy and paste answer whether there
-  // was something to do. Their keys are Control-X, C and V, and
-  // Shift-Delete, Control-Insert and Shift-Insert.
+  // was something to do.
   void replaceSelection(const char* text);
   int cut();
   int copy();

@@ -32,12 +32,6 @@ bool isBackspace(XEvent* event) {
   return symbol == XK_BackSpace;
 }
 
-std::string insertedText(const XmTextVerifyCallbackStruct& verify) {
-  const XmTextBlock block = verify.text;
-  if (!block || !block->ptr || block->length <= 0) return {};
-  return {block->ptr, static_cast<std::size_t>(block->length)};
-}
-
 zKeyEvt keyEventOf(zWindow* window, XEvent* event, unsigned message, long character) {
   zKeyEvt key;
   if (isKey(event)) key = ziKeyEvent(window, event, message);
@@ -78,7 +72,7 @@ bool zEditBase::offerCharacter(XmTextVerifyCallbackStruct& verify) {
 
 bool zEditBase::offer(XmTextVerifyCallbackStruct& verify) {
   if (!verify.event && !takesEveryChange()) return true;
-  std::string text = insertedText(verify);
+  std::string text = ziInsertedText(verify);
   if (text.empty()) return offerDeletion();
   if (text.size() == 1) return offerCharacter(verify);
   return !pasteStr(text);
@@ -87,16 +81,12 @@ bool zEditBase::offer(XmTextVerifyCallbackStruct& verify) {
 // Characters that a widget can't show are replaced; in a field of one line, so is the end of a
 // line, and the last one dropped. One that is typed is left for `ch` to see, and refused behind it.
 void zEditBase::cleanInserted(XmTextVerifyCallbackStruct& verify) {
-  const std::string given = insertedText(verify);
+  const std::string given = ziInsertedText(verify);
   if (given.empty() || (isKey(verify.event) && given.size() == 1 && ziSafeText(given) != given)) {
     return;
   }
-  std::string text = ziSafeText(given);
   const unsigned long style = styleValue();
-  if (!(style & zEditStyle::multiLine)) {
-    if (text.back() == '\n') text.pop_back();
-    std::replace(text.begin(), text.end(), '\n', ' ');
-  }
+  std::string text = style & zEditStyle::multiLine ? ziSafeText(given) : ziSafeLine(given);
   for (char& c : text) {
     const auto byte = static_cast<unsigned char>(c);
     if (style & zEditStyle::upperCase) c = static_cast<char>(std::toupper(byte));
@@ -144,7 +134,7 @@ void zEditBase::updateUndoBuffer(const XmTextVerifyCallbackStruct& verify, const
   const int inserted = verify.text ? verify.text->length : 0;
   const bool single = offered.end - offered.start <= 1 && isKey(verify.event);
   Kind kind = Kind::other;
-  if (single && !insertedText(verify).empty() && offered.start == offered.end) kind = Kind::typed;
+  if (single && !ziInsertedText(verify).empty() && offered.start == offered.end) kind = Kind::typed;
   if (single && offered.start != offered.end) kind = Kind::deleted;
   const int caretAfter = caretAfter_.value_or(static_cast<int>(verify.startPos) + inserted);
   undoAfter_ = undo_;
@@ -156,9 +146,9 @@ bool zEditBase::modify(XmTextVerifyCallbackStruct& verify) {
   const zWindowWatch watch(this);
   const std::string before = getText();
   const zRange offered{static_cast<int>(verify.startPos), static_cast<int>(verify.endPos)};
-  offeredDeletion_ = insertedText(verify).empty();
+  offeredDeletion_ = ziInsertedText(verify).empty();
   cleanInserted(verify);
-  if (offered.start == offered.end && insertedText(verify).empty()) return false;
+  if (offered.start == offered.end && ziInsertedText(verify).empty()) return false;
   const bool accepted = offer(verify);
   if (watch.gone() || verify_ != &verify || (!accepted && !edited_)) return false;
   if (edited_ && !replaceByEdited(verify, before)) return false;
@@ -177,7 +167,7 @@ void zEditBase::modifyCB(Widget, XtPointer link, XtPointer callData) {
   auto& verify = *static_cast<XmTextVerifyCallbackStruct*>(callData);
   if (edit->semaphores_ & (settingText | modifying | formatting)) return;
   const zWindowWatch watch(edit);
-  const bool deletes = insertedText(verify).empty();
+  const bool deletes = ziInsertedText(verify).empty();
   edit->semaphores_ |= modifying;
   edit->verify_ = &verify;
   edit->edited_.reset();

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "framework/core/app.h"
 #include "framework/core/frame_window.h"
@@ -25,9 +26,7 @@ struct Question {
 };
 
 // What a text has asked for and got no answer to. Belongs to the widget.
-struct Pastes {
-  std::optional<Question> pending;
-};
+using Pending = std::optional<Question>;
 
 Atom atom(Widget widget, const char* name) {
   return XInternAtom(XtDisplay(widget), name, False);
@@ -64,7 +63,10 @@ std::string answerTo(Widget text) {
                      True, AnyPropertyType, &type, &format, &length, &left, &value);
   const std::unique_ptr<unsigned char, int (*)(void*)> owned(value, XFree);
   if (!value || type != XA_STRING || format != 8) return {};
-  return ziSafeText({reinterpret_cast<const char*>(value), length});
+  const std::string_view given(reinterpret_cast<const char*>(value), length);
+  int mode = 0;
+  XtVaGetValues(text, XmNeditMode, &mode, nullptr);
+  return mode == XmSINGLE_LINE_EDIT ? ziSafeLine(given) : ziSafeText(given);
 }
 
 void insert(Widget text, const Question& question, std::string answer) {
@@ -78,7 +80,7 @@ void insert(Widget text, const Question& question, std::string answer) {
 
 void answered(Widget text, XtPointer data, XEvent* event, Boolean*) {
   if (event->type != SelectionNotify) return;
-  auto& pending = static_cast<Pastes*>(data)->pending;
+  auto& pending = *static_cast<Pending*>(data);
   const XSelectionEvent& answer = event->xselection;
   if (!pending || answer.selection != pending->selection || answer.time != pending->time) return;
   if (answer.property != None && answer.property != answerProperty(text)) return;
@@ -97,12 +99,12 @@ void pasteBegins(Widget text, XtPointer data, XtPointer callData) {
   XmTransferDone(paste.transfer_id, XmTRANSFER_DONE_FAIL);
   if (at) question.place = XmTextXYToPos(text, at->x, at->y);
   if (!XtIsRealized(text)) return;
-  static_cast<Pastes*>(data)->pending = question;
+  *static_cast<Pending*>(data) = question;
   convert(text, question, XA_STRING);
 }
 
-void textGoes(Widget, XtPointer pastes, XtPointer) {
-  delete static_cast<Pastes*>(pastes);
+void textGoes(Widget, XtPointer pending, XtPointer) {
+  delete static_cast<Pending*>(pending);
 }
 
 // The clipboard.
@@ -136,18 +138,49 @@ Boolean offerClipboard(Widget owner, Atom*, Atom* target, Atom* type, XtPointer*
   return True;
 }
 
+void copyAction(Widget text, XEvent*, String*, Cardinal*) {
+  ziCopyText(text);
+}
+
+void cutAction(Widget text, XEvent*, String*, Cardinal*) {
+  ziCutText(text);
+}
+
+// The widget would insert the control characters of some keys, and has a clipboard of its own for
+// the others.
+XtTranslations clipboardKeys() {
+  static XtActionsRec actions[] = {{const_cast<char*>("ziCopy"), copyAction},
+                                   {const_cast<char*>("ziCut"), cutAction}};
+  static const XtTranslations parsed =
+      (XtAppAddActions(app->context(), actions, XtNumber(actions)),
+       XtParseTranslationTable(":s <Key>osfDelete: ziCut()\n:<Key>osfCut: ziCut()\n"
+                               ":c <Key>osfInsert: ziCopy()\n:<Key>osfCopy: ziCopy()\n"
+                               "c ~s ~m ~a <Key>x: ziCut()\nc ~s ~m ~a <Key>c: ziCopy()\n"
+                               "c ~s ~m ~a <Key>v: paste-clipboard()"));
+  return parsed;
+}
+
 }  // namespace
 
-bool ziCopyToClipboard(const std::string& text) {
+bool ziCopyText(Widget text) {
+  const std::string selected = ziSelectedText(text);
+  if (selected.empty()) return false;
   const Widget owner = app->rootWindow()->shell();
-  clipboard() = text;
+  clipboard() = selected;
   return XtOwnSelection(owner, atom(owner, "CLIPBOARD"), XtLastTimestampProcessed(app->display()),
                         offerClipboard, nullptr, nullptr);
 }
 
-void ziTakePastes(Widget text) {
-  auto* pastes = new Pastes;
-  XtAddCallback(text, XmNdestinationCallback, pasteBegins, pastes);
-  XtAddEventHandler(text, NoEventMask, True, answered, pastes);
-  XtAddCallback(text, XmNdestroyCallback, textGoes, pastes);
+bool ziCutText(Widget text) {
+  if (!XmTextGetEditable(text) || !ziCopyText(text)) return false;
+  XmTextRemove(text);
+  return true;
+}
+
+void ziUseSelections(Widget text) {
+  auto* pending = new Pending;
+  XtAddCallback(text, XmNdestinationCallback, pasteBegins, pending);
+  XtAddEventHandler(text, NoEventMask, True, answered, pending);
+  XtAddCallback(text, XmNdestroyCallback, textGoes, pending);
+  XtOverrideTranslations(text, clipboardKeys());
 }

@@ -12,8 +12,8 @@
 
 #include "framework/controls/button.h"
 #include "framework/core/errors.h"
+#include "framework/core/event_loop.h"
 #include "framework/core/frame_window.h"
-#include "framework/core/widget_end.h"
 #include "framework/dialogs/control_types.h"
 #include "framework/drawing/color.h"
 #include "framework/drawing/font.h"

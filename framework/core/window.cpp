@@ -6,8 +6,8 @@
 
 #include "framework/controls/button.h"
 #include "framework/core/app.h"
+#include "framework/core/event_loop.h"
 #include "framework/core/frame_window.h"
-#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/drawing/bitmap.h"

@@ -2,6 +2,8 @@
 
 #include <Xm/Text.h>
 
+#include <algorithm>
+
 std::string ziSafeText(std::string_view text) {
   std::string safe(text);
   for (char& c : safe) {
@@ -9,6 +11,13 @@ std::string ziSafeText(std::string_view text) {
     if (c != '\n' && (c < ' ' || c > '~')) c = '?';
   }
   return safe;
+}
+
+std::string ziSafeLine(std::string_view text) {
+  if (text.ends_with('\n')) text.remove_suffix(1);
+  std::string line = ziSafeText(text);
+  std::replace(line.begin(), line.end(), '\n', ' ');
+  return line;
 }
 
 ziXmString::ziXmString(std::string_view text)
@@ -43,13 +52,30 @@ void ziSetLabel(Widget label, std::string_view title) {
   XtVaSetValues(label, XmNlabelString, text.get(), XmNmnemonic, mnemonic, nullptr);
 }
 
-std::string ziTextOf(Widget text) {
-  char* value = XmTextGetString(text);
-  std::string copy(value ? value : "");
-  XtFree(value);
+namespace {
+
+std::string taken(char* fromMotif) {
+  std::string copy(fromMotif ? fromMotif : "");
+  XtFree(fromMotif);
   return copy;
+}
+
+}  // namespace
+
+std::string ziTextOf(Widget text) {
+  return taken(XmTextGetString(text));
+}
+
+std::string ziSelectedText(Widget text) {
+  return taken(XmTextGetSelection(text));
 }
 
 void ziSetText(Widget text, std::string_view value) {
   XmTextSetString(text, ziSafeText(value).data());
+}
+
+std::string ziInsertedText(const XmTextVerifyCallbackStruct& change) {
+  const XmTextBlock block = change.text;
+  if (!block || !block->ptr || block->length <= 0) return {};
+  return {block->ptr, static_cast<std::size_t>(block->length)};
 }

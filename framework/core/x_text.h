@@ -11,6 +11,9 @@
 // short at bytes that are not valid in the locale.
 std::string ziSafeText(std::string_view text);
 
+// The same for a place of one line: a line feed at the end is dropped, any other is a blank.
+std::string ziSafeLine(std::string_view text);
+
 // An owned XmString of a sanitised text.
 class ziXmString {
  public:
@@ -37,4 +40,8 @@ void ziSetLabel(Widget label, std::string_view title);
 
 // XmText's texts as owned strings, and its setters.
 std::string ziTextOf(Widget text);
+std::string ziSelectedText(Widget text);
 void ziSetText(Widget text, std::string_view value);
+
+// What a change that XmText reports would insert; empty for a deletion.
+std::string ziInsertedText(const XmTextVerifyCallbackStruct& change);

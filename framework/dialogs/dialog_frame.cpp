@@ -13,8 +13,8 @@
 #include "framework/controls/combo_box.h"
 #include "framework/controls/group_box.h"
 #include "framework/core/app.h"
+#include "framework/core/event_loop.h"
 #include "framework/core/event_translation.h"
-#include "framework/core/widget_end.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/dialogs/message.h"
 

@@ -6,8 +6,8 @@
 #include <Xm/Protocols.h>
 
 #include "framework/core/app.h"
+#include "framework/core/event_loop.h"
 #include "framework/core/frame_window.h"
-#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 namespace {

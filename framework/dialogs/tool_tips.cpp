@@ -5,8 +5,8 @@
 
 #include "framework/core/app.h"
 #include "framework/core/child_window.h"
+#include "framework/core/event_loop.h"
 #include "framework/core/frame_window.h"
-#include "framework/core/widget_end.h"
 #include "framework/core/x_text.h"
 
 namespace {

@@ -222,6 +222,28 @@ TEST_F(ComboTest, TellsOfTyping) {
   EXPECT_EQ(form->full->selection(), -1);
 }
 
+TEST_F(ComboTest, SharesTheClipboardOfFieldsAndTakesNoControlCharacters) {
+  ASSERT_TRUE(x_driver::show(*form));
+  ASSERT_TRUE(x_driver::giveFocus(*form->full));
+  form->full->text("");
+  x_driver::text("xy");
+  for (const KeySym k : {XK_b, XK_c, XK_v, XK_x}) x_driver::key(k, {XK_Control_L});
+  EXPECT_EQ(form->full->getText(), "xy");
+  x_driver::key(XK_Home, {XK_Shift_L});
+  x_driver::key(XK_Caps_Lock);
+  x_driver::key(XK_c, {XK_Control_L});
+  x_driver::key(XK_Caps_Lock);
+  x_driver::key(XK_End);
+  x_driver::key(XK_v, {XK_Control_L});
+  EXPECT_TRUE(x_driver::waitUntil([&] { return form->full->getText() == "xyxy"; }));
+  x_driver::key(XK_Home, {XK_Shift_L});
+  x_driver::key(XK_x, {XK_Control_L});
+  EXPECT_EQ(form->full->getText(), "");
+  ASSERT_TRUE(x_driver::giveFocus(*form->edit));
+  x_driver::key(XK_Insert, {XK_Shift_L});
+  EXPECT_TRUE(x_driver::waitUntil([&] { return form->edit->getText() == "xyxy"; }));
+}
+
 TEST_F(ComboTest, ClosesWithWhatItBelongsTo) {
   const std::function<void()> reasons[] = {
       [&] { x_driver::giveFocus(*form->edit); },

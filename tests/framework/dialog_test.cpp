@@ -19,7 +19,7 @@
 #include "framework/controls/group_box.h"
 #include "framework/controls/static_text.h"
 #include "framework/core/app.h"
-#include "framework/core/widget_end.h"
+#include "framework/core/event_loop.h"
 #include "framework/dialogs/dialog_reader.h"
 #include "framework/dialogs/message.h"
 #include "framework/layout/dialog_unit.h"

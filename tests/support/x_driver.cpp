@@ -12,7 +12,7 @@
 #include <memory>
 
 #include "framework/core/app.h"
-#include "framework/core/widget_end.h"
+#include "framework/core/event_loop.h"
 #include "framework/dialogs/dialog_frame.h"
 
 namespace x_driver {

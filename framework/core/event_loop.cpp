@@ -1,4 +1,4 @@
-#include "framework/core/widget_end.h"
+#include "framework/core/event_loop.h"
 
 #include <Xm/Xm.h>
 
