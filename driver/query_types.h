@@ -28,11 +28,3 @@ enum ServiceQueryType : std::uint16_t {
 
 // On primSigQuery.
 enum SigQueryType : std::uint16_t { sigLinkState = 1 };
-
-// On primPhyControl.
-enum PhyControlType : std::uint16_t {
-  phySetFraming = 1,
-  phySetVpi = 2,
-  phySetRedundantLink = 3,
-  phySwitchLink = 4,
-};

@@ -3,6 +3,7 @@
 #include "simulator/request.h"
 
 #include "driver/board_records.h"
+#include "driver/control_types.h"
 #include "driver/query_types.h"
 
 namespace lisim {

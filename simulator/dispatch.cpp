@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <limits>
 
+#include "driver/control_types.h"
 #include "driver/query_types.h"
 #include "simulator/request.h"
 

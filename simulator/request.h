@@ -13,9 +13,6 @@
 
 namespace lisim {
 
-// On primSigControl: switches the driver's own debug trace.
-constexpr std::uint16_t sigDebugTrace = 3;
-
 // A frame taken apart, with what a handler needs to serve it.
 struct Request {
   Simulator& simulator;

@@ -2,6 +2,7 @@
 // their tables empty. And the driver's own debug trace.
 #include "simulator/request.h"
 
+#include "driver/control_types.h"
 #include "driver/query_types.h"
 
 namespace lisim {

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "driver/board_records.h"
+#include "driver/control_types.h"
 #include "driver/query_types.h"
 #include "simulator/answer_code.h"
 #include "tests/support/lisim_client.h"

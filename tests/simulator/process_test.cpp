@@ -6,6 +6,7 @@
 #include <cerrno>
 
 #include "driver/board_records.h"
+#include "driver/control_types.h"
 #include "driver/query_types.h"
 #include "tests/support/lisim_client.h"
 
