@@ -42,6 +42,20 @@ class DMainDlg : public zFormDialog {
   void enableTimer();
   void disableTimer();
 
+  // What stands between the records of an adapter and Setup. The first fills the transfer buffers
+  // and their previous copies; the second takes accepted buffers into the records and the driver,
+  // and says what the driver could not take. The others take from the buffers of the selected
+  // adapter only what its editors have changed at once, circuits and client mappings.
+  void MapDataToXferBuffer(short adapter);
+  void MapXferBufferToData(short adapter);
+  void MapXferBufferPVCsToData();
+  void MapXferBufferELANsToData();
+
+  // The end of a Setup of `adapter`, accepted and cancelled: what is kept goes to the records, the
+  // driver and the file.
+  void keepSetup(short adapter);
+  void keepSetupLists(short adapter);
+
   int clickedSetupBTN(zNotifyEvt* event);
   int clickedStatsBTN(zNotifyEvt* event);
   int clickedActivateBTN(zNotifyEvt* event);

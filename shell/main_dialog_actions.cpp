@@ -1,6 +1,4 @@
 // What the main dialog's buttons and its table do.
-#include <unistd.h>
-
 #include "applet/run_state.h"
 #include "foundation/odlog.h"
 #include "framework/controls/bitmap_button.h"
@@ -15,7 +13,6 @@ namespace {
 constexpr unsigned noticeStyle = 48;
 
 // Captions of the dialogs.
-constexpr int setupTitle = 537;
 constexpr int statisticsTitle = 538;
 constexpr int globalTitle = 539;
 
@@ -23,20 +20,6 @@ constexpr int globalTitle = 539;
 
 void DMainDlg::noticeBox(const char* boxCaption, const char* text) {
   zMessage(this, text, boxCaption, noticeStyle);
-}
-
-int DMainDlg::clickedSetupBTN(zNotifyEvt*) {
-  if (getuid() != 0) {
-    noticeBox("Privilege Error", "Insufficient Privileges.\nUnable to Setup ATM Adapter!");
-    return 0;
-  }
-  if (!DaiOpenSuccess) {
-    noticeBox("Driver Error", "Atm Driver Not Loaded. \nNo dynamic configuration available!");
-  }
-  disableTimer();
-  DUnavailableDlg(this, setupTitle).modal();
-  enableTimer();
-  return 0;
 }
 
 int DMainDlg::clickedStatsBTN(zNotifyEvt*) {
