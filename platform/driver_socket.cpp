@@ -16,6 +16,8 @@
 
 static_assert(std::endian::native == std::endian::little, "words cross the wire as they stand");
 
+std::chrono::milliseconds defaultLimit{15000};
+
 namespace {
 
 struct ReplyMessage {
@@ -24,8 +26,8 @@ struct ReplyMessage {
 };
 constexpr std::size_t replyCapacity = offsetof(ReplyMessage, body) + wireMaxBody;
 
-int secondsOf(int limit) {
-  return limit == 0 ? defaultLimitSeconds : limit;
+std::chrono::milliseconds limitOf(int seconds) {
+  return seconds == 0 ? defaultLimit : std::chrono::seconds(seconds);
 }
 
 // The driver has gone. Shutting the socket down makes every later send fail at once.
@@ -126,7 +128,7 @@ int openSession(int socket, const sockaddr_un& address, int oflag, const Deadlin
 }  // namespace
 
 Deadline::Deadline(int seconds)
-    : endless_(seconds == noLimit), end_(Clock::now() + std::chrono::seconds(secondsOf(seconds))) {}
+    : endless_(seconds == noLimit), end_(Clock::now() + limitOf(seconds)) {}
 
 bool Deadline::passed() const {
   return !endless_ && Clock::now() >= end_;
@@ -139,7 +141,9 @@ int Deadline::millisecondsLeft() const {
 }
 
 void setReceiveLimit(int socket, int seconds) {
-  const timeval limit{seconds == noLimit ? 0 : secondsOf(seconds), 0};
+  const auto microseconds =
+      seconds == noLimit ? 0 : std::chrono::microseconds(limitOf(seconds)).count();
+  const timeval limit{microseconds / 1000000, microseconds % 1000000};
   ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
 }
 

@@ -79,7 +79,7 @@ int exchangeFrame(int socket, Session& session, const strioctl& exchange) {
 
 int streams_open(const char* path, int oflag) {
   if (isStreamsNode(path)) return openNode(path, oflag);
-  const int descriptor = openDriverSocket(path, oflag, Deadline(defaultLimitSeconds));
+  const int descriptor = openDriverSocket(path, oflag, Deadline(0));
   if (descriptor >= 0) sessions()[descriptor] = {};
   return descriptor;
 }
