@@ -55,6 +55,7 @@ class Adapters {
   std::string revision = "lisim simulated adapter driver 2.20";
   std::uint32_t seed = 0;
   Milliseconds returnDelay = 10000;
+  Milliseconds joinStep = 200;  // between two states of a service on its way up
 
  private:
   int servedBy(int backup) const;

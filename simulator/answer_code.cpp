@@ -23,8 +23,13 @@ constexpr const char* words[] = {
     "the board has no link to switch",
     "the board that would take the link is not well",
     "the backup carries another board's link",
+    "the service runs already",
+    "the service does not run",
+    "the board has no such circuit",
+    "the circuit is in use",
+    "no such entry",
 };
-static_assert(std::size(words) == static_cast<std::size_t>(Answer::switchTargetBusy) + 1);
+static_assert(std::size(words) == static_cast<std::size_t>(Answer::noSuchEntry) + 1);
 
 }  // namespace
 

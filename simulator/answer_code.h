@@ -21,6 +21,11 @@ enum class Answer : std::uint16_t {
   nothingToSwitch,
   switchTargetDown,
   switchTargetBusy,
+  alreadyRunning,
+  notRunning,
+  badVc,
+  vcInUse,
+  noSuchEntry,
 };
 
 // The words for `code`; the codes a fault put in have "code set by a fault".

@@ -1,5 +1,7 @@
 #include "simulator/board.h"
 
+#include <algorithm>
+
 namespace lisim {
 
 namespace {
@@ -21,7 +23,7 @@ constexpr std::uint32_t suni_stats::*alarmWords[alarmKinds] = {&suni_stats::los,
                                                                &suni_stats::ais, &suni_stats::lop};
 
 // QSAAL's and ILMI's well-known circuits, and where the others start.
-constexpr std::int16_t signallingVcis[] = {5, 16};
+constexpr std::uint16_t signallingVcis[] = {5, 16};
 constexpr std::size_t firstDataVci = 33;
 
 // So that the rows of one table do not all show one number.
@@ -50,13 +52,31 @@ suni_stats suniStatsOf(const Board& board) {
   return stats;
 }
 
-vc_tbl vcRowOf(const Board& board, std::size_t row, Milliseconds now, std::uint32_t seed) {
+ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step) {
+  return {board.services, board.mac, board.well(), now, step};
+}
+
+std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services) {
+  constexpr std::size_t fixed = std::size(signallingVcis);
+  std::vector<std::uint16_t> vcis;
+  for (std::size_t row = 0; row < board.vcRows; ++row) {
+    vcis.push_back(row < fixed ? signallingVcis[row]
+                               : static_cast<std::uint16_t>(firstDataVci + (row - fixed)));
+  }
+  const std::size_t own = vcis.size();
+  for (const std::uint16_t vci : services.circuits()) {
+    const auto end = vcis.begin() + static_cast<std::ptrdiff_t>(own);
+    if (vcis.size() < maxVcRows && std::find(vcis.begin(), end, vci) == end) vcis.push_back(vci);
+  }
+  return vcis;
+}
+
+vc_tbl vcRowOf(const Board& board, std::uint16_t vci, std::size_t row, Milliseconds now,
+               std::uint32_t seed) {
   const Milliseconds time = board.traffic.at(now);
   const std::uint32_t offset = seed == 0 ? 0 : draw(seed, row, vcIn) % rowSpread;
-  constexpr std::size_t fixed = std::size(signallingVcis);
   vc_tbl entry{};
-  entry.vci =
-      row < fixed ? signallingVcis[row] : static_cast<std::int16_t>(firstDataVci + (row - fixed));
+  entry.vci = static_cast<std::int16_t>(vci);
   entry.counterIn = board.counters[vcIn].value(time, seed) + offset;
   entry.counterOut = board.counters[vcOut].value(time, seed) + offset;
   return entry;

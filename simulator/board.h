@@ -9,6 +9,7 @@
 
 #include "driver/board_records.h"
 #include "simulator/counter.h"
+#include "simulator/services.h"
 
 namespace lisim {
 
@@ -68,9 +69,10 @@ struct Board {
   std::optional<Milliseconds> returnDue;  // when auto-switch gives the link back
   std::optional<rls_status> forcedStatus;
 
-  std::uint32_t vcRows = 0;  // 0 to maxVcRows
+  std::uint32_t vcRows = 0;  // of traffic of its own, 0 to maxVcRows
   std::array<Counter, counterNames> counters{};
   TrafficClock traffic;
+  Services services;
 
   // There, answering, and its line up.
   bool well() const { return presence == Presence::present && linkUp; }
@@ -80,7 +82,15 @@ struct Board {
 aal_stats aalStatsOf(const Board& board, Milliseconds now, std::uint32_t seed);
 suni_stats suniStatsOf(const Board& board);
 
-// Row `row` of the board's virtual-circuit table, from 0: the two signalling circuits first.
-vc_tbl vcRowOf(const Board& board, std::size_t row, Milliseconds now, std::uint32_t seed);
+// The board's services as of `now`, with the time a step of theirs takes.
+ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step);
+
+// The VCIs of the board's virtual-circuit table: those of its own traffic, the two signalling
+// circuits first, then what the services have beyond them.
+std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services);
+
+// Row `row` of that table.
+vc_tbl vcRowOf(const Board& board, std::uint16_t vci, std::size_t row, Milliseconds now,
+               std::uint32_t seed);
 
 }  // namespace lisim

@@ -3,8 +3,6 @@
 #include "simulator/request.h"
 
 #include "driver/board_records.h"
-#include "driver/control_types.h"
-#include "driver/query_types.h"
 
 namespace lisim {
 
@@ -12,13 +10,6 @@ namespace {
 
 struct PackageRevision {
   char text[packageRevBytes];
-};
-
-// The words of a set-redundant-link request.
-struct PairWords {
-  std::int32_t primary;
-  std::int32_t backup;
-  std::int32_t autoSwitch;
 };
 
 Answer boardState(Request& request) {
@@ -64,14 +55,16 @@ Answer linkStatus(Request& request) {
 }
 
 Answer vcRowCount(Request& request) {
-  request.head.NRow = static_cast<std::uint16_t>(request.board().vcRows);
+  const auto vcis = vcisOf(request.board(), request.services());
+  request.head.NRow = static_cast<std::uint16_t>(vcis.size());
   return Answer::done;
 }
 
 Answer vcRows(Request& request) {
   const Board& board = request.board();
-  return deliverRows(request, board.vcRows, [&](std::size_t row) {
-    return vcRowOf(board, row, request.now, request.simulator.adapters.seed);
+  const auto vcis = vcisOf(board, request.services());
+  return deliverRows(request, vcis.size(), [&](std::size_t row) {
+    return vcRowOf(board, vcis[row], row, request.now, request.simulator.adapters.seed);
   });
 }
 
@@ -95,7 +88,7 @@ Answer setVpi(Request& request) {
 }
 
 Answer setRedundantLink(Request& request) {
-  const auto words = request.input<PairWords>();
+  const auto words = request.input<rls_req>();
   const PairSetting setting{words.primary != 0 ? Role::primary : Role::backup,
                             std::max(words.backup, std::int32_t{noBoard}), words.autoSwitch != 0};
   return request.simulator.adapters.configure(request.head.Link, setting);
@@ -105,24 +98,28 @@ Answer switchLink(Request& request) {
   return request.simulator.adapters.switchLink(request.head.Link);
 }
 
-constexpr auto driver = Target::driver;
-constexpr auto board = Target::board;
-constexpr auto plain = OperationKind::plain;
+constexpr Operation driverOperation(Query query, std::uint16_t inputBytes,
+                                    Answer (*serve)(Request&)) {
+  Operation operation = queryOperation(query, serve);
+  operation.target = Target::driver;
+  operation.inputBytes = inputBytes;
+  return operation;
+}
 
 constexpr Operation operations[] = {
-    {primAalQuery, aalBoardState, driver, plain, 0, sizeof(board_state), boardState},
-    {primAalQuery, aalBoardMacAddress, driver, plain, 1, sizeof(board_mac), boardMac},
-    {primAalQuery, aalStats, board, plain, 0, sizeof(aal_stats), aalStatistics},
-    {primAalQuery, aalSuniStats, board, plain, 0, sizeof(suni_stats), lineStatistics},
-    {primAalQuery, aalPackageRev, driver, plain, 0, packageRevBytes, packageRevision},
-    {primAalQuery, aalRlsStatus, board, plain, 0, sizeof(rls_status), linkStatus},
-    {primVccQuery, vccNRows, board, OperationKind::rowCount, 0, 0, vcRowCount},
-    {primVccQuery, vccTable, board, OperationKind::table, 0, 0, vcRows},
-    {primVccQuery, vccBoardMaxVC, board, plain, 0, boardMaxVcBytes, maximumVcs},
-    {primPhyControl, phySetFraming, board, plain, 4, 0, setFraming},
-    {primPhyControl, phySetVpi, board, plain, 4, 0, setVpi},
-    {primPhyControl, phySetRedundantLink, board, plain, sizeof(PairWords), 0, setRedundantLink},
-    {primPhyControl, phySwitchLink, board, plain, 0, 0, switchLink},
+    driverOperation(Query::BoardState, 0, boardState),
+    driverOperation(Query::BoardMacAddress, 1, boardMac),
+    queryOperation(Query::AalStats, aalStatistics),
+    queryOperation(Query::SuniStats, lineStatistics),
+    driverOperation(Query::PackageRev, 0, packageRevision),
+    queryOperation(Query::RLSStatus, linkStatus),
+    countOperation(Query::VcTable, vcRowCount),
+    tableOperation(Query::VcTable, vcRows),
+    queryOperation(Query::BoardMaxVC, maximumVcs),
+    controlOperation(Control::PhySetFraming, Target::board, setFraming),
+    controlOperation(Control::PhySetVpi, Target::board, setVpi),
+    controlOperation(Control::PhySetRedundantLink, Target::board, setRedundantLink),
+    controlOperation(Control::PhySwitchLink, Target::board, switchLink),
 };
 
 }  // namespace

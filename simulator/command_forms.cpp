@@ -119,8 +119,18 @@ Reply switchLink(Simulator& simulator, const Values& values, Milliseconds) {
   return outcome(simulator.adapters.switchLink(index(values[0])));
 }
 
-Reply setReturnDelay(Simulator& simulator, const Values& values, Milliseconds) {
-  simulator.adapters.returnDelay = static_cast<Milliseconds>(values[0].number);
+template <auto member>
+Reply setDelay(Simulator& simulator, const Values& values, Milliseconds) {
+  simulator.adapters.*member = static_cast<Milliseconds>(values[0].number);
+  return {};
+}
+
+// As the port request, without its checks.
+Reply setSignalling(Simulator& simulator, const Values& values, Milliseconds now) {
+  Signalling& signalling = boardOf(simulator, values).services.signalling;
+  const bool up = values[1].number != 0;
+  if (up && !signalling.portEnabled) signalling.since = now;
+  signalling.portEnabled = up;
   return {};
 }
 
@@ -139,7 +149,7 @@ std::optional<Number> ifGiven(const Value& value) {
   return value.given ? std::optional(static_cast<Number>(value.number)) : std::nullopt;
 }
 
-// Arguments: primitive, type, board, page, the kind's own if it has one, times.
+// Arguments: primitive, type, board, page, after, the kind's own if it has one, times.
 template <FaultKind kind>
 Reply addFault(Simulator& simulator, const Values& values, Milliseconds) {
   Fault fault;
@@ -147,9 +157,10 @@ Reply addFault(Simulator& simulator, const Values& values, Milliseconds) {
   fault.type = ifGiven<std::uint16_t>(values[1]);
   fault.link = ifGiven<std::uint8_t>(values[2]);
   fault.page = ifGiven<std::uint32_t>(values[3]);
+  fault.after = values[4].given ? word(values[4]) : 0;
   fault.times = ifGiven<std::uint32_t>(values.back());
   fault.kind = kind;
-  if (values.size() > 5) fault.value = word(values[4]);
+  if (values.size() > 6) fault.value = word(values[5]);
   simulator.faults.add(fault);
   return {};
 }
@@ -191,12 +202,39 @@ std::string boardText(const Adapters& adapters, int number) {
          std::to_string(board.vcRows) + "\n";
 }
 
-Reply show(Simulator& simulator, const Values&, Milliseconds) {
+std::string serviceText(const char* name, int unit, std::uint32_t state, std::size_t circuits) {
+  if (state == serviceOff) return "";
+  std::string text = "  " + std::string(name);
+  if (unit >= 0) text += " " + std::to_string(unit);
+  return text + " state " + std::to_string(state) + " entries " + std::to_string(circuits) + "\n";
+}
+
+// A line for each service that runs.
+std::string servicesText(const Board& board, const ServiceView& view) {
+  const Services& services = board.services;
+  std::string text;
+  if (services.signalling.portEnabled)
+    text += view.signallingUp() ? "  signalling up\n" : "  signalling coming up\n";
+  for (int unit = 0; unit < unitSlots; ++unit) {
+    const auto place = static_cast<std::size_t>(unit);
+    text += serviceText("lec", unit, view.clientState(unit), services.clients[place].pvcs.size());
+  }
+  for (int unit = 0; unit < unitSlots; ++unit)
+    text += serviceText("les", unit, view.serverState(unit), view.joinedClients(unit).size());
+  text += serviceText("lecs", -1, view.configServerState(), services.configServer.clients.size());
+  return text + serviceText("ip", -1, view.ipState(), services.ip.pvcs.size());
+}
+
+Reply show(Simulator& simulator, const Values&, Milliseconds now) {
   const Adapters& adapters = simulator.adapters;
   std::string text = "number " + std::to_string(adapters.number) + " mask " +
                      std::to_string(adapters.mask()) + " debug " +
                      std::to_string(simulator.debugTrace) + " revision " + adapters.revision + "\n";
-  for (int number = 0; number < boardSlots; ++number) text += boardText(adapters, number);
+  for (int number = 0; number < boardSlots; ++number) {
+    const Board& board = adapters.board(number);
+    text += boardText(adapters, number);
+    text += servicesText(board, serviceView(board, now, adapters.joinStep));
+  }
   return {text + simulator.faults.describe(), ""};
 }
 
@@ -224,29 +262,38 @@ constexpr CommandForm forms[] = {
     {"board {board} counter {counter} {word}", setCounter},
     {"board {board} state auto", freeStatus},
     {"board {board} state {short} {active}", forceStatus},
+    {"board {board} signalling {up/down}", setSignalling},
     {"board {board} backup", makeBackup},
     {"pair {board} {board}", pair<false>},
     {"pair {board} {board} manual", pair<false>},
     {"pair {board} {board} auto", pair<true>},
     {"unpair {board}", unpair},
     {"switch {board}", switchLink},
-    {"return-delay {time}", setReturnDelay},
+    {"return-delay {time}", setDelay<&Adapters::returnDelay>},
+    {"join-delay {time}", setDelay<&Adapters::joinStep>},
     {"revision {text}", setRevision},
     {"seed {word}", setSeed},
     {"fault clear", clearFaults},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] code {short} [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] code {short} [times "
+     "{count}]",
      addFault<FaultKind::code>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] errno {errno} [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] errno {errno} "
+     "[times {count}]",
      addFault<FaultKind::error>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] untouched [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] untouched [times "
+     "{count}]",
      addFault<FaultKind::untouched>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] delay {time} [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] delay {time} [times "
+     "{count}]",
      addFault<FaultKind::delay>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] silence [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] silence [times "
+     "{count}]",
      addFault<FaultKind::silence>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] rows {short} [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] rows {short} [times "
+     "{count}]",
      addFault<FaultKind::rows>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] hangup [times {count}]",
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] hangup [times "
+     "{count}]",
      addFault<FaultKind::hangup>},
     {"show", show},
     {"quit", quit},

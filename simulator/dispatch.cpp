@@ -38,7 +38,8 @@ struct Lookup {
 
 Lookup findOperation(const req_param_t& head) {
   Lookup found;
-  for (const auto table : {boardOperations(), serviceOperations()})
+  for (const auto table :
+       {boardOperations(), lanEmulationOperations(), ipOperations(), signallingOperations()})
     for (const Operation& operation : table) {
       if (operation.primitive != head.Prim) continue;
       found.failure = Answer::unknownType;
@@ -62,8 +63,8 @@ Answer serve(const Lookup& found, Request& request) {
   if (found.operation == nullptr) return found.failure;
   const Operation& operation = *found.operation;
   if (request.head.Link >= boardSlots) return Answer::badLink;
-  if (request.head.Unit > lastUnit) return Answer::badUnit;
-  if (operation.target == Target::board)
+  if (request.head.Unit > lastUnit && operation.target != Target::boardRow) return Answer::badUnit;
+  if (operation.target != Target::driver)
     if (const Answer answer = checkBoard(request.board()); answer != Answer::done) return answer;
   if (request.inputBytes < operation.inputBytes) return Answer::badInput;
   if (request.payload.size() < operation.replyBytes) return Answer::noRoom;

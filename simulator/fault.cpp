@@ -33,6 +33,10 @@ std::optional<Fault> Faults::take(const req_param_t& head, std::uint32_t page) {
     if (!hits(fault->primitive, head.Prim) || !hits(fault->type, head.Type) ||
         !hits(fault->link, head.Link) || !hits(fault->page, page))
       continue;
+    if (fault->after > 0) {
+      --fault->after;
+      continue;
+    }
     const Fault taken = *fault;
     if (fault->times && --*fault->times == 0) faults_.erase(fault);
     return taken;
@@ -47,6 +51,7 @@ std::string Faults::describe() const {
     text += "fault " + numberOrAny(fault.primitive) + " " + numberOrAny(fault.type);
     if (fault.link) text += " board " + std::to_string(*fault.link + 1);
     if (fault.page) text += " page " + std::to_string(*fault.page);
+    if (fault.after) text += " after " + std::to_string(fault.after);
     text += std::string(" ") + kind.word;
     if (kind.hasValue) text += " " + std::to_string(fault.value);
     if (fault.times) text += " times " + std::to_string(*fault.times);

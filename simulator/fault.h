@@ -17,6 +17,7 @@ struct Fault {
   std::optional<std::uint16_t> type;
   std::optional<std::uint8_t> link;  // adapter from 0
   std::optional<std::uint32_t> page;
+  std::uint32_t after = 0;             // fitting requests to let pass first
   std::optional<std::uint32_t> times;  // hits left; unset: for ever
   FaultKind kind = FaultKind::code;
   std::uint32_t value = 0;  // the code, error number, milliseconds or rows

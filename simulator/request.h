@@ -7,7 +7,9 @@
 #include <cstring>
 #include <span>
 
+#include "driver/control_table.h"
 #include "driver/frame.h"
+#include "driver/query_table.h"
 #include "simulator/answer_code.h"
 #include "simulator/simulator.h"
 
@@ -22,6 +24,7 @@ struct Request {
   std::size_t inputBytes;           // of the payload that are input
   std::uint16_t rowLimit;           // a fault can hold table reads short
   Board& board() { return simulator.adapters.board(head.Link); }
+  ServiceView services() { return serviceView(board(), now, simulator.adapters.joinStep); }
 
   // Puts a record at `offset` of the payload. The dispatcher has made sure of the room.
   template <class Record>
@@ -29,11 +32,11 @@ struct Request {
     std::memcpy(payload.data() + offset, &record, sizeof record);
   }
 
-  // Takes one from the front of the payload; the dispatcher has made sure of the input.
+  // Takes one from `offset` of the payload; the dispatcher has made sure of the input.
   template <class Record>
-  Record input() const {
+  Record input(std::size_t offset = 0) const {
     Record record;
-    std::memcpy(&record, payload.data(), sizeof record);
+    std::memcpy(&record, payload.data() + offset, sizeof record);
     return record;
   }
 };
@@ -57,10 +60,14 @@ Answer deliverRows(Request& request, std::size_t rows, RowAt rowAt) {
   return Answer::done;
 }
 
+// Payloads of signalling frames start with a head of their own.
+constexpr std::uint16_t sigHeadBytes = signallingDataOffset - plainDataOffset;
+
 enum class OperationKind { plain, rowCount, table };
 
-// Which board a request is about: none, or the one in Link.
-enum class Target { driver, board };
+// What a request is about: no board, the one in Link, or one whose Unit is a row of a table and so
+// any number.
+enum class Target { driver, board, boardRow };
 
 // One entry of a dispatch table.
 struct Operation {
@@ -73,8 +80,33 @@ struct Operation {
   Answer (*serve)(Request&);
 };
 
+// A control request's entry, with the input that its frame carries.
+constexpr Operation controlOperation(Control control, Target target, Answer (*serve)(Request&)) {
+  const ControlForm& form = formOf(control);
+  const auto input = static_cast<std::uint16_t>(form.inputBytes - plainDataOffset);
+  return {form.prim, form.type, target, OperationKind::plain, input, 0, serve};
+}
+
+// A query's entry: the whole record has to find room.
+constexpr Operation queryOperation(Query query, Answer (*serve)(Request&)) {
+  const QueryForm& form = formOf(query);
+  return {form.prim, form.type, Target::board, OperationKind::plain, 0, form.replyBytes, serve};
+}
+
+// The two entries of a table.
+constexpr Operation countOperation(Query query, Answer (*serve)(Request&)) {
+  const QueryForm& form = formOf(query);
+  return {form.prim, form.countType, Target::board, OperationKind::rowCount, 0, 0, serve};
+}
+constexpr Operation tableOperation(Query query, Answer (*serve)(Request&)) {
+  const QueryForm& form = formOf(query);
+  return {form.prim, form.type, Target::board, OperationKind::table, 0, 0, serve};
+}
+
 // The tables, one per family of services.
 std::span<const Operation> boardOperations();
-std::span<const Operation> serviceOperations();
+std::span<const Operation> lanEmulationOperations();
+std::span<const Operation> ipOperations();
+std::span<const Operation> signallingOperations();
 
 }  // namespace lisim

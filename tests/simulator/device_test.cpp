@@ -284,6 +284,8 @@ TEST(Device, FaultsSpoilWhatTheyName) {
   EXPECT_EQ(state().head.Resp, 77);
   EXPECT_EQ(state().head.Resp, 77);
   EXPECT_EQ(state().head.Resp, 0);
+  fault("129 16 after 2 code 78 times 1");
+  for (const int resp : {0, 0, 78, 0}) EXPECT_EQ(state().head.Resp, resp);
   fault("129 * errno EBUSY times 1");
   EXPECT_EQ(state().wire.code, std::uint32_t{EBUSY});
   fault("* 16 untouched times 1");

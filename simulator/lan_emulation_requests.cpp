@@ -1,0 +1,244 @@
+// The requests about LAN Emulation clients, servers and the configuration server.
+#include <algorithm>
+#include <cstring>
+
+#include "simulator/circuit_rules.h"
+#include "simulator/request.h"
+
+namespace lisim {
+
+namespace {
+
+LanClient& clientOf(Request& request) {
+  return request.board().services.clients[request.head.Unit];
+}
+
+LanServer& serverOf(Request& request) {
+  return request.board().services.servers[request.head.Unit];
+}
+
+ConfigServer& configServerOf(Request& request) {
+  return request.board().services.configServer;
+}
+
+// Clients. One that runs is started anew.
+
+Answer enableClient(Request& request) {
+  const auto record = request.input<lecReqStruct>();
+  if (!isOneOf(record.mfs, smallestFrame, largestFrame) || !isOneOf(record.elanType, 0, 1) ||
+      !isOneOf(record.config, 0, 1) || !isOneOf(record.lecs, 0, 1))
+    return Answer::badValue;
+  clientOf(request) = {true, record, request.now, 0, {}};
+  return Answer::done;
+}
+
+Answer disableClient(Request& request) {
+  clientOf(request) = {};
+  return Answer::done;
+}
+
+Answer addClientPvc(Request& request) {
+  LanClient& client = clientOf(request);
+  const auto pvc = request.input<bdgPvcReqStruct>();
+  const Answer answer = checkNewCircuit(request, client.enabled, pvc.vcIndex);
+  if (answer == Answer::done) client.pvcs.push_back(pvc);
+  return answer;
+}
+
+Answer deleteClientPvc(Request& request) {
+  return removeCircuit(clientOf(request).pvcs, request.input<bdgPvcReqStruct>().vcIndex);
+}
+
+Answer setEnhanced(Request& request) {
+  LanClient& client = clientOf(request);
+  if (!client.enabled) return Answer::notRunning;
+  client.enhanced = request.input<word_req>().value;
+  return Answer::done;
+}
+
+Answer clientState(Request& request) {
+  lec_state state{};
+  state.state = request.services().clientState(request.head.Unit);
+  state.ready = state.state != serviceOff && request.services().signallingUp();
+  request.reply(state);
+  return Answer::done;
+}
+
+Answer clientStatistics(Request& request) {
+  request.reply(request.services().clientStats(request.head.Unit));
+  return Answer::done;
+}
+
+Answer clientRowCount(Request& request) {
+  request.head.NRow = static_cast<std::uint16_t>(clientOf(request).pvcs.size());
+  return Answer::done;
+}
+
+Answer clientRows(Request& request) {
+  const auto& pvcs = clientOf(request).pvcs;
+  return deliverRows(request, pvcs.size(), [&](std::size_t i) {
+    const vc_tbl counts =
+        vcRowOf(request.board(), pvcs[i].vcIndex, i, request.now, request.simulator.adapters.seed);
+    lec_tbl_t row{};
+    std::memcpy(row.macAddress, pvcs[i].macAddress, sizeof row.macAddress);
+    row.connectionKind = permanentConnection;
+    row.vci = pvcs[i].vcIndex;
+    row.txPackets = counts.counterOut;
+    row.rxPackets = counts.counterIn;
+    return row;
+  });
+}
+
+// Servers. One that runs has to be stopped before it is started.
+
+Answer enableServer(Request& request) {
+  const auto record = request.input<lesReqStruct>();
+  if (!isOneOf(record.mfs, smallestFrame, largestFrame) || !isOneOf(record.elanType, 1, 2))
+    return Answer::badValue;
+  if (serverOf(request).enabled) return Answer::alreadyRunning;
+  serverOf(request) = {true, record};
+  return Answer::done;
+}
+
+Answer disableServer(Request& request) {
+  serverOf(request) = {};
+  return Answer::done;
+}
+
+Answer serverState(Request& request) {
+  les_state state{};
+  state.state = request.services().serverState(request.head.Unit);
+  state.serving = state.state != serviceOff && request.services().signallingUp();
+  request.reply(state);
+  return Answer::done;
+}
+
+Answer serverStatistics(Request& request) {
+  request.reply(request.services().serverStats(request.head.Unit));
+  return Answer::done;
+}
+
+Answer serverRowCount(Request& request) {
+  const auto rows = request.services().joinedClients(request.head.Unit);
+  request.head.NRow = static_cast<std::uint16_t>(rows.size());
+  return Answer::done;
+}
+
+Answer serverRows(Request& request) {
+  const auto rows = request.services().joinedClients(request.head.Unit);
+  return deliverRows(request, rows.size(), [&](std::size_t i) { return rows[i]; });
+}
+
+// The configuration server. It is set up first and then set going.
+
+Answer enableConfigServer(Request& request) {
+  const auto record = request.input<lecs_req>();
+  if (!isOneOf(record.elanType, 1, 2) || !isOneOf(record.etherMfs, smallestFrame, largestFrame) ||
+      !isOneOf(record.tokenRingMfs, smallestFrame, largestFrame))
+    return Answer::badValue;
+  if (configServerOf(request).enabled) return Answer::alreadyRunning;
+  configServerOf(request) = {true, false, record, {}};
+  return Answer::done;
+}
+
+Answer disableConfigServer(Request& request) {
+  configServerOf(request) = {};
+  return Answer::done;
+}
+
+Answer startConfigServer(Request& request) {
+  ConfigServer& server = configServerOf(request);
+  if (!server.enabled) return Answer::notRunning;
+  server.going = true;
+  return Answer::done;
+}
+
+auto findClient(ConfigServer& server, const lecs_req& client) {
+  return std::ranges::find_if(server.clients, [&](const lecs_req& known) {
+    return std::ranges::equal(known.esiSelector, client.esiSelector);
+  });
+}
+
+Answer addMapping(Request& request) {
+  ConfigServer& server = configServerOf(request);
+  if (!server.enabled) return Answer::notRunning;
+  const auto client = request.input<lecs_req>();
+  const auto known = findClient(server, client);
+  if (known != server.clients.end()) {
+    *known = client;
+  } else {
+    server.clients.push_back(client);
+  }
+  return Answer::done;
+}
+
+Answer deleteMapping(Request& request) {
+  ConfigServer& server = configServerOf(request);
+  const auto known = findClient(server, request.input<lecs_req>());
+  if (known == server.clients.end()) return Answer::noSuchEntry;
+  server.clients.erase(known);
+  return Answer::done;
+}
+
+Answer configServerState(Request& request) {
+  request.reply(lecs_state{request.services().configServerState(), 0});
+  return Answer::done;
+}
+
+Answer configServerStatistics(Request& request) {
+  request.reply(request.services().configServerStats());
+  return Answer::done;
+}
+
+Answer mappingCount(Request& request) {
+  request.head.NRow = static_cast<std::uint16_t>(configServerOf(request).clients.size());
+  return Answer::done;
+}
+
+Answer mappingRows(Request& request) {
+  constexpr std::uint8_t configured = 1;
+  const auto& clients = configServerOf(request).clients;
+  return deliverRows(request, clients.size(), [&](std::size_t i) {
+    lecs_tbl row{};
+    std::memcpy(row.esiSelector, clients[i].esiSelector, sizeof row.esiSelector);
+    row.kind = configured;
+    return row;
+  });
+}
+
+constexpr auto board = Target::board;
+
+constexpr Operation operations[] = {
+    controlOperation(Control::LecEnable, board, enableClient),
+    controlOperation(Control::LecDisable, board, disableClient),
+    controlOperation(Control::LecAddPvc, board, addClientPvc),
+    controlOperation(Control::LecDeletePvc, board, deleteClientPvc),
+    controlOperation(Control::LecSetEnhanced, board, setEnhanced),
+    queryOperation(Query::LecState, clientState),
+    queryOperation(Query::LecStats, clientStatistics),
+    countOperation(Query::LecTable, clientRowCount),
+    tableOperation(Query::LecTable, clientRows),
+    controlOperation(Control::LesEnable, board, enableServer),
+    controlOperation(Control::LesDisable, board, disableServer),
+    queryOperation(Query::LesState, serverState),
+    queryOperation(Query::LesStats, serverStatistics),
+    countOperation(Query::LesTable, serverRowCount),
+    tableOperation(Query::LesTable, serverRows),
+    controlOperation(Control::LecsEnable, board, enableConfigServer),
+    controlOperation(Control::LecsDisable, board, disableConfigServer),
+    controlOperation(Control::LecsAddClient, Target::boardRow, addMapping),
+    controlOperation(Control::LecsDeleteClient, Target::boardRow, deleteMapping),
+    controlOperation(Control::LecsGo, board, startConfigServer),
+    queryOperation(Query::LecsState, configServerState),
+    queryOperation(Query::LecsStats, configServerStatistics),
+    countOperation(Query::LecsTable, mappingCount),
+    tableOperation(Query::LecsTable, mappingRows),
+};
+
+}  // namespace
+
+std::span<const Operation> lanEmulationOperations() {
+  return operations;
+}
+
+}  // namespace lisim
