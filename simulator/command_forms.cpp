@@ -274,25 +274,25 @@ constexpr CommandForm forms[] = {
     {"revision {text}", setRevision},
     {"seed {word}", setSeed},
     {"fault clear", clearFaults},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] code {short} [times "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] code {short} [times "
      "{count}]",
      addFault<FaultKind::code>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] errno {errno} "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] errno {errno} "
      "[times {count}]",
      addFault<FaultKind::error>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] untouched [times "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] untouched [times "
      "{count}]",
      addFault<FaultKind::untouched>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] delay {time} [times "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] delay {time} [times "
      "{count}]",
      addFault<FaultKind::delay>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] silence [times "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] silence [times "
      "{count}]",
      addFault<FaultKind::silence>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] rows {short} [times "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] rows {short} [times "
      "{count}]",
      addFault<FaultKind::rows>},
-    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {count}] hangup [times "
+    {"fault {pattern} {pattern} [board {board}] [page {count}] [after {word}] hangup [times "
      "{count}]",
      addFault<FaultKind::hangup>},
     {"show", show},
