@@ -146,7 +146,16 @@ TEST(MainDialog, FollowsTheSelection) {
   EXPECT_FALSE(main.face(activateButton) == std::vector<unsigned long>(80 * 16, grey));
 }
 
-TEST(MainDialog, SwitchesALinkBack) {
+Lines switchRequests(const Host& host) {
+  Lines switches;
+  for (const std::string& request : host.requests()) {
+    if (request.starts_with("130/")) switches.push_back(request);
+  }
+  return switches;
+}
+
+// By the button to the primary, by the button to the backup, and by itself to the primary again.
+TEST(MainDialog, SwitchesALinkThereAndBack) {
   const Host host;
   ProgramRun run(host.directory, applet());
   const Person person;
@@ -160,14 +169,27 @@ TEST(MainDialog, SwitchesALinkBack) {
   EXPECT_TRUE(
       run.logged("Setting Status for Adapt#3 to 'Available' status == Adapter 3: "
                  "Available, for adapter 2"));
-  Lines switches;
-  for (const std::string& request : host.requests()) {
-    if (request.starts_with("130/")) switches.push_back(request);
-  }
-  EXPECT_EQ(switches, Lines{"130/4/2"});
+  EXPECT_EQ(switchRequests(host), Lines{"130/4/2"});
   EXPECT_EQ(run.missing({"In clickedActivateBTN, for Adapter: 1", "DAI: RLS_SWITCH (2)",
-                         "  GetRLSInfo: Data Changed."}),
+                         "  GetRLSInfo: Data Changed.", "ActivateBTN: show: De-Activate"}),
             "");
+
+  // Longer than a poll, so that both states are seen.
+  EXPECT_EQ(host.driver.command("return-delay 8s\npair 2 3 auto"), "ok\nok\n");
+  main.click(activateButton);
+  EXPECT_TRUE(main.rowTurns(2, yellow));
+  EXPECT_TRUE(main.rowTurns(3, green));
+  EXPECT_EQ(switchRequests(host), (Lines{"130/4/2", "130/4/1"}));
+  EXPECT_EQ(run.missing({"DAI: RLS_SWITCH (1)",
+                         "Setting Status for Adapt#2 to 'Inactive' status == Adapter 2: Inactive, "
+                         "backed up by adapter 3",
+                         "Setting Status for Adapt#3 to 'Active' status == Adapter 3: Active, for "
+                         "Adapter 2",
+                         "ActivateBTN: show: Activate"}),
+            "");
+  EXPECT_TRUE(main.rowTurns(2, green));
+  EXPECT_TRUE(main.rowTurns(3, yellow));
+  EXPECT_EQ(switchRequests(host).size(), 2U) << "the driver has done it by itself";
 }
 
 TEST(MainDialog, SetupIsModalForUser0) {
@@ -196,6 +218,15 @@ TEST(MainDialog, SetupIsModalForUser0) {
     EXPECT_TRUE(person.awaitCount("Setup", 0));
   }
   EXPECT_TRUE(run.running());
+
+  // Accepted with nothing changed: a session of its own without a request, and the file. Cancelled:
+  // the lists alone.
+  EXPECT_EQ(host.events("open"), 3) << "the program's own and one of each acceptance";
+  for (const std::string& request : host.requests())
+    EXPECT_TRUE(request.starts_with("129/") || request.starts_with("1/")) << request;
+  EXPECT_TRUE(run.logged("====== storing current settings in xfer buffer =====", 3));
+  EXPECT_TRUE(run.logged(" w> WriteLink(0) to odconf", 2));
+  EXPECT_TRUE(run.logged(" w> WriteMappedClients(0) to odconf", 1));
 }
 
 TEST(MainDialog, SetupIsRefusedToOthersAndStatisticsAreNot) {
