@@ -11,6 +11,7 @@ namespace lisim {
 const char helpText[] =
     "usage: lisim --device PATH [--scenario FILE] [--control PATH] [--trace FILE]\n"
     "             [--boards N] [--seed N]\n"
+    "       lisim --decode TRACE\n"
     "Plays an adapter driver on the socket PATH until it is told to end.\n"
     "  --device PATH    the socket that takes the place of the control device\n"
     "  --scenario FILE  commands to start with\n"
@@ -18,6 +19,7 @@ const char helpText[] =
     "  --trace FILE     write a line for each open, request and close\n"
     "  --boards N       boards at the start, 0 to 8; 2 unless given\n"
     "  --seed N         let counters wander about their rates; 0, the default, keeps them exact\n"
+    "  --decode TRACE   print a trace for a person, '-' being the standard input, and end\n"
     "  --help           show this text\n"
     "  --version        show the version\n"
     "The commands are told in lisim(8).\n";
@@ -51,6 +53,7 @@ constexpr Option valued[] = {
     {"--scenario", takeText<&Options::scenario>, "a file"},
     {"--control", takeText<&Options::control>, "a path"},
     {"--trace", takeText<&Options::trace>, "a file"},
+    {"--decode", takeText<&Options::decode>, "a file"},
     {"--boards", takeNumber<&Options::boards, boardSlots>, "a number from 0 to 8"},
     {"--seed", takeNumber<&Options::seed, std::numeric_limits<std::uint32_t>::max()>,
      "a number from 0 to 4294967295"},
@@ -84,7 +87,8 @@ std::string readOptions(int count, const char* const* words, Options& options) {
     if (i + 1 >= count || !option->take(words[++i], options))
       return word + " wants " + option->expected;
   }
-  if (options.device.empty() && !options.help && !options.version) return "--device is missing";
+  const bool plays = !options.help && !options.version && options.decode.empty();
+  if (plays && options.device.empty()) return "--device is missing";
   return "";
 }
 

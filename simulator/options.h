@@ -8,10 +8,11 @@ namespace lisim {
 
 struct Options {
   std::string device;
-  std::string scenario;  // these three "" when not given
+  std::string scenario;  // these four "" when not given
   std::string control;
   std::string trace;
-  int boards = 2;  // 0 to 8
+  std::string decode;  // a trace to print instead, "-" for the standard input
+  int boards = 2;      // 0 to 8
   std::uint32_t seed = 0;
   bool help = false;
   bool version = false;
