@@ -1,10 +1,12 @@
-// What a request costs beyond the messages it needs: one frame, and a whole table in pages, each
-// beside bare round trips of the same sizes to an echoing process. LISIM names the simulated
-// driver to run; without it the one in the build folder is.
+// What a request costs beyond the messages it needs: one frame, a whole table in pages, and all the
+// control requests of a full adapter that has changed in everything, each beside bare round trips
+// of the same sizes to an echoing process. LISIM names the simulated driver to run; without it the
+// one in the build folder is.
 
 #include <benchmark/benchmark.h>
 #include <sched.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -12,6 +14,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -21,9 +24,14 @@
 #include <string>
 #include <vector>
 
+#include "applet/run_state.h"
+#include "atm/devices.h"
+#include "atm/transfer_buffers.h"
+#include "driver/control_table.h"
 #include "driver/queries.h"
 #include "driver/session.h"
 #include "platform/wire.h"
+#include "shell/apply_changes.h"
 #include "tests/support/scratch_directory.h"
 
 namespace {
@@ -80,6 +88,9 @@ void echo(int socket) {
     send(socket, message, static_cast<std::size_t>(got), MSG_NOSIGNAL);
 }
 
+// Exchanges that the least driver has served, in memory shared with its process.
+std::atomic<std::uint64_t>* served = nullptr;
+
 // The least a driver can be: it counts tableRows rows in any table and serves them in pages.
 void answerFrame(req_param_t& head) {
   head.Resp = 0;
@@ -100,7 +111,10 @@ void serveTables(int listener) {
       wire.code = wire.limit = 0;
       answerFrame(head);
       std::memcpy(message, &wire, sizeof wire);
-      if (wire.kind == wireExchange) std::memcpy(message + sizeof wire, &head, sizeof head);
+      if (wire.kind == wireExchange) {
+        std::memcpy(message + sizeof wire, &head, sizeof head);
+        served->fetch_add(1, std::memory_order_relaxed);
+      }
       send(session, message, static_cast<std::size_t>(got), MSG_NOSIGNAL);
     }
   }
@@ -178,6 +192,90 @@ void bareTableRoundTrips(benchmark::State& state) {
 }
 BENCHMARK(bareTableRoundTrips);
 
+// A full adapter: every client with its circuits, every server with its clients, everything on and
+// everything changed.
+constexpr short fullAdapter = 0;
+constexpr std::size_t circuits = 50;
+constexpr std::size_t clientsOfServer = 2;
+
+void changeEverything() {
+  DaiOpenSuccess = BoardIsThere[fullAdapter] = 1;
+  for (int n = 0; n < maxLecs; ++n) {
+    xferBuffer[n].Enabled = xferBuffer[n].EnhancedVC = 1;
+    xferBuffer[n].ElanName = "changed";
+    xferBuffer[n].pvcs.resize(circuits);
+  }
+  for (int n = 0; n < maxLess; ++n) {
+    lesXferBuffer[n].Enabled = 1;
+    lesXferBuffer[n].clients.resize(clientsOfServer);
+  }
+  lecsXferBuffer.Enabled = 1;
+  ip1577XferBuffer.Enabled = 1;
+  ip1577XferBuffer.pvcs.resize(circuits);
+  sigXferBuffer.Enabled = 1;
+  phyXferBuffer.Framing = phyXferBuffer.VPI = phyXferBuffer.RLAutoSwitch = 1;
+}
+
+// The requests that this asks for: what, and how many times.
+constexpr struct {
+  Control control;
+  std::size_t times;
+} fullApply[] = {
+    {Control::LecEnable, maxLecs},
+    {Control::LecAddPvc, maxLecs* circuits},
+    {Control::LecSetEnhanced, maxLecs},
+    {Control::LesDisable, maxLess},
+    {Control::LesEnable, maxLess},
+    {Control::LecsDisable, 1},
+    {Control::LecsEnable, 1},
+    {Control::LecsGo, 1},
+    {Control::LecsAddClient, maxLess* clientsOfServer},
+    {Control::IpEnable, 1},
+    {Control::IpAddPvc, circuits},
+    {Control::SigUpdate, 1},
+    {Control::SigPort, 1},
+    {Control::PhySetFraming, 1},
+    {Control::PhySetVpi, 1},
+    {Control::PhySetRedundantLink, 1},
+};
+
+std::size_t requestsAskedFor() {
+  std::size_t count = 0;
+  for (const auto& step : fullApply) count += step.times;
+  return count;
+}
+
+void applyFullAdapter(benchmark::State& state) {
+  changeEverything();
+  const std::uint64_t before = *served;
+  for (auto _ : state) {
+    const ChangeSession session;
+    applyClients(fullAdapter, session);
+    applyServers(fullAdapter, session);
+    applyConfigServer(fullAdapter, session);
+    applyIp1577(fullAdapter, session);
+    if (!applySignalling(fullAdapter, session) || !applyPhysical(fullAdapter, session))
+      state.SkipWithError("not everything was sent");
+  }
+  state.counters["requests"] =
+      benchmark::Counter(static_cast<double>(*served - before), benchmark::Counter::kAvgIterations);
+  state.counters["asked for"] = static_cast<double>(requestsAskedFor());
+}
+BENCHMARK(applyFullAdapter);
+
+void bareApplyRoundTrips(benchmark::State& state) {
+  std::vector<char> message(sizeof(WireHead) + signallingFrameBytes);
+  for (auto _ : state) {
+    bool ok = true;
+    for (const auto& [control, times] : fullApply) {
+      const std::size_t bytes = sizeof(WireHead) + formOf(control).frameBytes;
+      for (std::size_t i = 0; i < times; ++i) ok = roundTrip(message, bytes) && ok;
+    }
+    if (!ok) state.SkipWithError("no echo");
+  }
+}
+BENCHMARK(bareApplyRoundTrips);
+
 // Both ends of an exchange take turns, so one processor does; it keeps the cost of waking another,
 // which differs by the moment, out of the figures.
 void stayOnOneProcessor() {
@@ -206,9 +304,13 @@ int main(int argc, char** argv) {
   close(ends[1]);
   echoSocket = ends[0];
 
+  void* shared =
+      mmap(nullptr, sizeof *served, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  if (shared == MAP_FAILED) return 1;
+  served = new (shared) std::atomic<std::uint64_t>(0);
   const ScratchDirectory tableDirectory;
-  const int listener = listenOnNode();
-  const Child serving([&] { serveTables(listener); });
+  const int tableListener = listenOnNode();
+  const Child serving([&] { serveTables(tableListener); });
   tableSession = openSession();
 
   const ScratchDirectory simulatorDirectory;
@@ -219,6 +321,11 @@ int main(int argc, char** argv) {
   simulatorSession = openSession();
   if (simulatorSession < 0)
     std::fprintf(stderr, "%s did not start; a stand-in answers the frames\n", lisim.c_str());
+
+  // The last one made is the device that changes are applied to.
+  const ScratchDirectory applyDirectory;
+  const int applyListener = listenOnNode();
+  const Child applying([&] { serveTables(applyListener); });
 
   benchmark::RunSpecifiedBenchmarks();
   dai_close(0, simulatorSession);
