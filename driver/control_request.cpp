@@ -27,6 +27,11 @@ int ControlRequest::send(Control control) {
   return daiRequest();
 }
 
+int ControlRequest::stop(Control control) {
+  logLine(control);
+  return Disable();
+}
+
 void ControlRequest::logLine(Control control) {
   odlog << formOf(control).logLine << std::endl;
 }

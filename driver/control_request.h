@@ -20,6 +20,8 @@ class ControlRequest : public reqParam, public Enabler {
     fill(formOf(control), &record, sizeof record);
   }
 
+  static void logLine(Control control);
+
   // prepare, the control's line in the log, and the request. Returns what daiRequest returned.
   int send(Control control);
   template <class Record>
@@ -29,7 +31,15 @@ class ControlRequest : public reqParam, public Enabler {
     return daiRequest();
   }
 
-  static void logLine(Control control);
+  // The on and off of the service, with their lines in the log. Both return what daiRequest
+  // returned.
+  template <class Record>
+  int start(Control control, const Record& record) {
+    prepare(control, record);
+    logLine(control);
+    return Enable();
+  }
+  int stop(Control control);
 
  private:
   void fill(const ControlForm& form, const void* record, std::size_t bytes);

@@ -12,7 +12,7 @@ class ip1577Request : public ControlRequest {
   // Each sends one request and returns what daiRequest returned.
 
   // Starts the service, anew if it runs.
-  int enable(const ip1577ReqStruct& record) { return send(Control::IpEnable, record); }
-  int disable() { return send(Control::IpDisable); }
+  int enable(const ip1577ReqStruct& record) { return start(Control::IpEnable, record); }
+  int disable() { return stop(Control::IpDisable); }
   int addPvc(const rtdPvcReqStruct& record);
 };

@@ -12,8 +12,8 @@ class lecRequest : public ControlRequest {
   // Each sends one request and returns what daiRequest returned.
 
   // Starts the client, anew if it runs.
-  int enable(const lecReqStruct& record) { return send(Control::LecEnable, record); }
-  int disable() { return send(Control::LecDisable); }
+  int enable(const lecReqStruct& record) { return start(Control::LecEnable, record); }
+  int disable() { return stop(Control::LecDisable); }
   int addPvc(const bdgPvcReqStruct& record) { return send(Control::LecAddPvc, record); }
   int setEnhancedVC(unsigned int enhanced);
 };

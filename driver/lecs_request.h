@@ -16,7 +16,7 @@ class lecsRequest : public ControlRequest {
   // last two that fails.
   int enable(const lecs_req& record);
   int enable(const lecs_req& record, unsigned char link, unsigned char unit);
-  int disable() { return send(Control::LecsDisable); }
+  int disable() { return stop(Control::LecsDisable); }
   int disable(unsigned char link, unsigned char unit);
 
   // One and the same request.

@@ -11,6 +11,6 @@ class lesRequest : public ControlRequest {
 
   // Each sends one request and returns what daiRequest returned. A server that runs has to be
   // stopped before it is started.
-  int enable(const lesReqStruct& record) { return send(Control::LesEnable, record); }
-  int disable() { return send(Control::LesDisable); }
+  int enable(const lesReqStruct& record) { return start(Control::LesEnable, record); }
+  int disable() { return stop(Control::LesDisable); }
 };

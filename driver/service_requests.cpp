@@ -14,7 +14,7 @@ int lecRequest::setEnhancedVC(unsigned int enhanced) {
 
 int lecsRequest::enable(const lecs_req& record) {
   disable();
-  if (send(Control::LecsEnable, record) != 0) return -1;
+  if (start(Control::LecsEnable, record) != 0) return -1;
   return go() != 0 ? -1 : 0;
 }
 

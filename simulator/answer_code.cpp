@@ -28,8 +28,9 @@ constexpr const char* words[] = {
     "the board has no such circuit",
     "the circuit is in use",
     "no such entry",
+    "the table is full",
 };
-static_assert(std::size(words) == static_cast<std::size_t>(Answer::noSuchEntry) + 1);
+static_assert(std::size(words) == static_cast<std::size_t>(Answer::tableFull) + 1);
 
 }  // namespace
 

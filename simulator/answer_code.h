@@ -26,6 +26,7 @@ enum class Answer : std::uint16_t {
   badVc,
   vcInUse,
   noSuchEntry,
+  tableFull,
 };
 
 // The words for `code`; the codes a fault put in have "code set by a fault".

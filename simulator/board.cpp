@@ -56,18 +56,28 @@ ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step)
   return {board.services, board.mac, board.well(), now, step};
 }
 
-std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services) {
+namespace {
+
+std::uint16_t ownVci(std::size_t row) {
   constexpr std::size_t fixed = std::size(signallingVcis);
+  return row < fixed ? signallingVcis[row]
+                     : static_cast<std::uint16_t>(firstDataVci + (row - fixed));
+}
+
+bool isOwnVci(const Board& board, std::uint16_t vci) {
+  constexpr std::size_t fixed = std::size(signallingVcis);
+  for (std::size_t row = 0; row < std::min<std::size_t>(fixed, board.vcRows); ++row)
+    if (signallingVcis[row] == vci) return true;
+  return vci >= firstDataVci && vci - firstDataVci + fixed < board.vcRows;
+}
+
+}  // namespace
+
+std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services) {
   std::vector<std::uint16_t> vcis;
-  for (std::size_t row = 0; row < board.vcRows; ++row) {
-    vcis.push_back(row < fixed ? signallingVcis[row]
-                               : static_cast<std::uint16_t>(firstDataVci + (row - fixed)));
-  }
-  const std::size_t own = vcis.size();
-  for (const std::uint16_t vci : services.circuits()) {
-    const auto end = vcis.begin() + static_cast<std::ptrdiff_t>(own);
-    if (vcis.size() < maxVcRows && std::find(vcis.begin(), end, vci) == end) vcis.push_back(vci);
-  }
+  for (std::size_t row = 0; row < board.vcRows; ++row) vcis.push_back(ownVci(row));
+  for (const std::uint16_t vci : services.circuits())
+    if (vcis.size() < maxVcRows && !isOwnVci(board, vci)) vcis.push_back(vci);
   return vcis;
 }
 

@@ -153,6 +153,8 @@ Answer startConfigServer(Request& request) {
   return Answer::done;
 }
 
+constexpr std::size_t mostMappings = 65534;  // what a 16-bit row number reaches
+
 auto findClient(ConfigServer& server, const lecs_req& client) {
   return std::ranges::find_if(server.clients, [&](const lecs_req& known) {
     return std::ranges::equal(known.esiSelector, client.esiSelector);
@@ -166,9 +168,10 @@ Answer addMapping(Request& request) {
   const auto known = findClient(server, client);
   if (known != server.clients.end()) {
     *known = client;
-  } else {
-    server.clients.push_back(client);
+    return Answer::done;
   }
+  if (server.clients.size() >= mostMappings) return Answer::tableFull;
+  server.clients.push_back(client);
   return Answer::done;
 }
 
