@@ -7,21 +7,24 @@
 
 namespace lisim {
 
-// Whether the board can take a circuit more, at `vci`.
-inline Answer checkNewCircuit(Request& request, bool running, std::uint16_t vci) {
-  if (!running) return Answer::notRunning;
-  const Board& board = request.board();
-  if (vci == 0 || vci >= board.maxVc) return Answer::badVc;
-  const auto vcis = vcisOf(board, request.services());
-  return std::ranges::find(vcis, vci) == vcis.end() ? Answer::done : Answer::vcInUse;
+// Gives a service the circuit in the request, if the service runs and the board can take it.
+template <class Service>
+Answer addCircuit(Request& request, Service& service) {
+  const auto pvc = request.input<typename decltype(service.pvcs)::value_type>();
+  if (!service.enabled) return Answer::notRunning;
+  if (pvc.vcIndex == 0 || pvc.vcIndex >= request.board().maxVc) return Answer::badVc;
+  const auto vcis = vcisOf(request.board(), request.services());
+  if (std::ranges::find(vcis, pvc.vcIndex) != vcis.end()) return Answer::vcInUse;
+  service.pvcs.push_back(pvc);
+  return Answer::done;
 }
 
-// Takes the circuit at `vci` out of a service's list.
-template <class Pvcs>
-Answer removeCircuit(Pvcs& pvcs, std::uint16_t vci) {
-  return std::erase_if(pvcs, [vci](const auto& pvc) { return pvc.vcIndex == vci; }) == 0
-             ? Answer::noSuchEntry
-             : Answer::done;
+// Takes the circuit with the request's VCI from a service.
+template <class Service>
+Answer deleteCircuit(Request& request, Service& service) {
+  const auto named = request.input<typename decltype(service.pvcs)::value_type>();
+  const auto isNamed = [&](const auto& pvc) { return pvc.vcIndex == named.vcIndex; };
+  return std::erase_if(service.pvcs, isNamed) == 0 ? Answer::noSuchEntry : Answer::done;
 }
 
 // A flag or a number of a list in a request's record.

@@ -28,15 +28,11 @@ Answer disable(Request& request) {
 }
 
 Answer addPvc(Request& request) {
-  IpService& ip = ipOf(request);
-  const auto pvc = request.input<ip_pvc>();
-  const Answer answer = checkNewCircuit(request, ip.enabled, pvc.vcIndex);
-  if (answer == Answer::done) ip.pvcs.push_back(pvc);
-  return answer;
+  return addCircuit(request, ipOf(request));
 }
 
 Answer deletePvc(Request& request) {
-  return removeCircuit(ipOf(request).pvcs, request.input<ip_pvc>().vcIndex);
+  return deleteCircuit(request, ipOf(request));
 }
 
 Answer state(Request& request) {

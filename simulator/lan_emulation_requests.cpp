@@ -38,15 +38,11 @@ Answer disableClient(Request& request) {
 }
 
 Answer addClientPvc(Request& request) {
-  LanClient& client = clientOf(request);
-  const auto pvc = request.input<bdgPvcReqStruct>();
-  const Answer answer = checkNewCircuit(request, client.enabled, pvc.vcIndex);
-  if (answer == Answer::done) client.pvcs.push_back(pvc);
-  return answer;
+  return addCircuit(request, clientOf(request));
 }
 
 Answer deleteClientPvc(Request& request) {
-  return removeCircuit(clientOf(request).pvcs, request.input<bdgPvcReqStruct>().vcIndex);
+  return deleteCircuit(request, clientOf(request));
 }
 
 Answer setEnhanced(Request& request) {

@@ -300,7 +300,7 @@ TEST(Apply, AnAbsentBoardIsStoredAndNotSent) {
   EXPECT_EQ(reader.boxes(), Lines());
   EXPECT_EQ(atmDevices.phy[Stage::adapter].VPI, 3);
   EXPECT_TRUE(lisimWaitFor([&] {
-    return Stage::field(stage.driver.trace().back(), "event") == "close";
+    return lisimField(stage.driver.trace().back(), "event") == "close";
   })) << "the private session is over";
 }
 

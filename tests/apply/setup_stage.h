@@ -148,20 +148,12 @@ class Stage {
     std::string requests;
     const Lines trace = driver.trace();
     for (; line < trace.size(); ++line) {
-      if (field(trace[line], "event") != "request") continue;
+      if (lisimField(trace[line], "event") != "request") continue;
       if (!requests.empty()) requests += ' ';
-      requests += field(trace[line], "prim") + '/' + field(trace[line], "type") + '/' +
-                  field(trace[line], "link") + '/' + field(trace[line], "unit");
+      requests += lisimField(trace[line], "prim") + '/' + lisimField(trace[line], "type") + '/' +
+                  lisimField(trace[line], "link") + '/' + lisimField(trace[line], "unit");
     }
     return requests;
-  }
-
-  // A field of a trace line, of a request the first one.
-  static std::string field(const std::string& line, const std::string& name) {
-    const std::size_t at = line.find(" " + name + "=");
-    if (at == std::string::npos) return "";
-    const std::size_t start = at + name.size() + 2;
-    return line.substr(start, line.find(' ', start) - start);
   }
 
   LisimProcess driver;

@@ -52,7 +52,8 @@ class Host {
     std::vector<std::string> found;
     for (const std::string& line : driver.trace()) {
       if (line.find(" event=request ") == std::string::npos) continue;
-      found.push_back(field(line, "prim") + "/" + field(line, "type") + "/" + field(line, "link"));
+      found.push_back(lisimField(line, "prim") + "/" + lisimField(line, "type") + "/" +
+                      lisimField(line, "link"));
     }
     return found;
   }
@@ -62,15 +63,8 @@ class Host {
   // How many trace lines tell of this event.
   int events(const std::string& name) const {
     int count = 0;
-    for (const std::string& line : driver.trace()) count += field(line, "event") == name;
+    for (const std::string& line : driver.trace()) count += lisimField(line, "event") == name;
     return count;
-  }
-  // A field of the request in a trace line, before the answer's.
-  static std::string field(const std::string& line, const std::string& name) {
-    const std::size_t at = line.find(" " + name + "=");
-    if (at == std::string::npos) return "";
-    const std::size_t start = at + name.size() + 2;
-    return line.substr(start, line.find(' ', start) - start);
   }
 
   LisimProcess driver;

@@ -38,8 +38,8 @@ TEST(MainDialog, StartsAndPolls) {
   EXPECT_EQ(host.requests(), startRequests + pollRequests + pollRequests);
   int board = 0;
   for (const std::string& line : host.driver.trace()) {
-    if (Host::field(line, "prim") != "129" || Host::field(line, "type") != "2") continue;
-    EXPECT_EQ(Host::field(line, "in").substr(0, 2), "0" + std::to_string(++board));
+    if (lisimField(line, "prim") != "129" || lisimField(line, "type") != "2") continue;
+    EXPECT_EQ(lisimField(line, "in").substr(0, 2), "0" + std::to_string(++board));
   }
   EXPECT_EQ(board, 6);
   EXPECT_NE(run.errors().find("  OpenSuccess: 1\n"), std::string::npos);

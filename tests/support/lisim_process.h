@@ -31,6 +31,14 @@ inline bool lisimWaitFor(const std::function<bool()>& condition) {
   return true;
 }
 
+// A field of a trace line; of a request, before the answer's.
+inline std::string lisimField(const std::string& line, const std::string& name) {
+  const std::size_t at = line.find(" " + name + "=");
+  if (at == std::string::npos) return "";
+  const std::size_t start = at + name.size() + 2;
+  return line.substr(start, line.find(' ', start) - start);
+}
+
 // Waits until `descriptor` can be read, up to `milliseconds`.
 inline bool lisimReadable(int descriptor, int milliseconds = lisimPatienceMs) {
   pollfd one{descriptor, POLLIN, 0};
