@@ -87,18 +87,18 @@ unsigned short linkOf(short adapter) {
 }
 
 // The log's line of a request that failed, with the code that the frame came back with.
-void logFailure(const char* step, const reqParam& request) {
-  odlog << step << " - DAI returned error(" << request.header().Resp << ")." << std::endl;
+void logFailure(const char* line, const reqParam& request) {
+  odlog << line << request.header().Resp << ")." << std::endl;
 }
 
 void startClient(lecRequest& request, const AtmLEC& lec, int client) {
   lecReqStruct record;
   record = lec;
-  if (request.enable(record) != 0) logFailure("LEC:Enable", request);
+  if (request.enable(record) != 0) logFailure("LEC:Enable - DAI returned error(", request);
   for (const AtmBridgedPvc& pvc : lec.pvcs) {
     bdgPvcReqStruct circuit;
     circuit = pvc;
-    if (request.addPvc(circuit) != 0) logFailure("LEC:Add PVC", request);
+    if (request.addPvc(circuit) != 0) logFailure("LEC:Add PVC - DAI returned error(", request);
   }
   const std::int16_t enhanced = xferBuffer[client].EnhancedVC;
   if (enhanced == prevLecBuffer[client].EnhancedVC) return;
@@ -121,7 +121,8 @@ void addMappedClients(lecsRequest& request, lecs_req& record, short adapter) {
       std::memcpy(record.esiSelector, client.bytes, sizeof record.esiSelector);
       record.index = row;
       request.header().Unit = static_cast<std::uint8_t>(row++);
-      if (request.addClient(record) != 0) logFailure("LECS:Add Client", request);
+      if (request.addClient(record) != 0)
+        logFailure("LECS:Add Client - DAI returned error(", request);
     }
   }
 }
@@ -133,7 +134,7 @@ void startIp1577(ip1577Request& request, const AtmIP1577& ip) {
   for (const AtmRoutedPvc& pvc : ip.pvcs) {
     rtdPvcReqStruct circuit;
     circuit = pvc;
-    if (request.addPvc(circuit) != 0) logFailure("IP1577:Add PVC", request);
+    if (request.addPvc(circuit) != 0) logFailure("IP1577:Add PVC - DAI returned error(", request);
   }
 }
 
@@ -230,7 +231,8 @@ bool applySignalling(short adapter, const ChangeSession& session) {
   odlog << "Signalling data changed" << std::endl;
   if (!DaiOpenSuccess) return false;
   sigRequest request(session.descriptor(), linkOf(adapter), 0);
-  if (request.UpdateCfg(sig.cfg) != 0) logFailure("Signalling:Update Config", request);
+  if (request.UpdateCfg(sig.cfg) != 0)
+    logFailure("Signalling:Update Config - DAI returned error(", request);
   request.PortEnableDisable(sig.Enabled ? portEnabled : portDisabled);
   return true;
 }

@@ -34,8 +34,8 @@ void fillBuffers(Buffer (&working)[count], Buffer (&previous)[count],
   for (std::size_t i = 0; i < count; ++i) fillBuffers(working[i], previous[i], records[i]);
 }
 
-void logWrite(const char* what, int adapter) {
-  odlog << " w> " << what << "(" << adapter << ") to odconf" << std::endl;
+void logWrite(const char* line, int adapter) {
+  odlog << line << adapter << ") to odconf" << std::endl;
 }
 
 bool redundancyDiffers() {
@@ -86,7 +86,7 @@ int DMainDlg::clickedSetupBTN(zNotifyEvt*) {
 
 void DMainDlg::keepSetup(short adapter) {
   MapXferBufferToData(adapter);
-  logWrite("WriteLink", adapter);
+  logWrite(" w> WriteLink(", adapter);
   if (driverPdf_) driverPdf_->WriteLink(static_cast<short>(currentAdapter));
 }
 
@@ -96,9 +96,9 @@ void DMainDlg::keepSetupLists(short adapter) {
   MapXferBufferPVCsToData();
   MapXferBufferELANsToData();
   if (!driverPdf_) return;
-  for (const char* what : {"WriteRoutedPVCs", "WriteBridgedPVCs", "WriteMappedClients"}) {
-    logWrite(what, adapter);
-  }
+  logWrite(" w> WriteRoutedPVCs(", adapter);
+  logWrite(" w> WriteBridgedPVCs(", adapter);
+  logWrite(" w> WriteMappedClients(", adapter);
   const auto current = static_cast<short>(currentAdapter);
   driverPdf_->WriteRoutedPVCs(current);
   driverPdf_->WriteBridgedPVCs(current);
