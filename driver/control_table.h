@@ -92,6 +92,7 @@ static_assert([] {
     std::size_t end = form.payload.empty() ? plainDataOffset : dataOffsetOf(form.prim);
     if (!form.payload.empty()) end += form.payload.back().offset + form.payload.back().bytes;
     if (end != form.inputBytes || form.inputBytes > form.frameBytes) return false;
+    if (!hasItsWords(form.payload)) return false;
   }
   return place == static_cast<std::size_t>(Control::PhySwitchLink) + 1;
 }());

@@ -51,6 +51,14 @@ constexpr RecordField checkedField(const char* name, FieldKind kind,
 #define RECORD_FIELD(record, member, offset, ...) \
   checkedField<offsetof(record, member), sizeof(record::member), offset>(__VA_ARGS__)
 
+// Whether those fields have words that want them, and no others.
+constexpr bool hasItsWords(RecordLayout fields) {
+  for (const RecordField& field : fields) {
+    if ((field.kind == FieldKind::words) != (field.words != nullptr)) return false;
+  }
+  return true;
+}
+
 // Whether the fields follow each other inside the record; with `whole` also without a gap, from its
 // first byte to its last.
 template <class Record>

@@ -117,11 +117,11 @@ inline constexpr RecordField lesTableFields[] = {
     RECORD_FIELD(les_tbl, address, 8, "address", FieldKind::atmAddress),
     RECORD_FIELD(les_tbl, state, 36, "state", FieldKind::words, &words::busStates),
     RECORD_FIELD(les_tbl, controlDirectVci, 40, "control direct VCI", FieldKind::number),
-    RECORD_FIELD(les_tbl, controlDirectTx, 44, "tx", FieldKind::number),
-    RECORD_FIELD(les_tbl, controlDirectRx, 48, "rx", FieldKind::number),
+    RECORD_FIELD(les_tbl, controlDirectTx, 44, "control direct tx", FieldKind::number),
+    RECORD_FIELD(les_tbl, controlDirectRx, 48, "control direct rx", FieldKind::number),
     RECORD_FIELD(les_tbl, multicastSendVci, 52, "multicast send VCI", FieldKind::number),
-    RECORD_FIELD(les_tbl, multicastSendTx, 56, "tx", FieldKind::number),
-    RECORD_FIELD(les_tbl, multicastSendRx, 60, "rx", FieldKind::number),
+    RECORD_FIELD(les_tbl, multicastSendTx, 56, "multicast send tx", FieldKind::number),
+    RECORD_FIELD(les_tbl, multicastSendRx, 60, "multicast send rx", FieldKind::number),
 };
 static_assert(isLaidOut<les_tbl>(lesTableFields, false));
 
@@ -225,6 +225,7 @@ static_assert([] {
     if (static_cast<std::size_t>(form.query) != place++) return false;
     const RecordField& last = form.fields.back();
     if (last.offset + last.bytes > formOf(form.query).replyBytes) return false;
+    if (!hasItsWords(form.fields)) return false;
   }
   return place == std::size(queryForms);
 }());
