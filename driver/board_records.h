@@ -32,11 +32,11 @@ static_assert(sizeof(rls_status) == 4 && offsetof(rls_status, activeLink) == 2);
 struct vc_tbl {
   std::int16_t vci;
   std::uint8_t reserved[10];
-  std::uint32_t counterIn;
   std::uint32_t counterOut;
+  std::uint32_t counterIn;
 };
-static_assert(sizeof(vc_tbl) == 20 && offsetof(vc_tbl, counterIn) == 12 &&
-              offsetof(vc_tbl, counterOut) == 16);
+static_assert(sizeof(vc_tbl) == 20 && offsetof(vc_tbl, counterOut) == 12 &&
+              offsetof(vc_tbl, counterIn) == 16);
 
 // The log's form: VCI and the two counters, on one line that the caller ends.
 std::ostream& operator<<(std::ostream& os, const vc_tbl& row);

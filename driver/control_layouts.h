@@ -8,12 +8,12 @@
 
 // clang-format off
 inline constexpr RecordField lecReqFields[] = {
-    RECORD_FIELD(lecReqStruct, lecs, 0, "LECS", FieldKind::words, &words::offOn),
+    RECORD_FIELD(lecReqStruct, lecs, 0, "LECS", FieldKind::words, words::offOn),
     RECORD_FIELD(lecReqStruct, address, 4, "address", FieldKind::atmAddress),
-    RECORD_FIELD(lecReqStruct, mfs, 24, "MTU", FieldKind::words, &words::frameSizes),
+    RECORD_FIELD(lecReqStruct, mfs, 24, "MTU", FieldKind::words, words::frameSizes),
     RECORD_FIELD(lecReqStruct, elanName, 28, "ELAN", FieldKind::text),
-    RECORD_FIELD(lecReqStruct, elanType, 60, "ELAN type", FieldKind::words, &words::clientElanTypes),
-    RECORD_FIELD(lecReqStruct, config, 64, "PVC only", FieldKind::words, &words::offOn),
+    RECORD_FIELD(lecReqStruct, elanType, 60, "ELAN type", FieldKind::words, words::clientElanTypes),
+    RECORD_FIELD(lecReqStruct, config, 64, "PVC only", FieldKind::words, words::offOn),
     RECORD_FIELD(lecReqStruct, l3Mtu, 68, "layer 3 MTU", FieldKind::number),
     RECORD_FIELD(lecReqStruct, defaultPcr, 72, "default PCR", FieldKind::number),
 };
@@ -22,27 +22,27 @@ static_assert(isLaidOut<lecReqStruct>(lecReqFields, true));
 inline constexpr RecordField bdgPvcReqFields[] = {
     RECORD_FIELD(bdgPvcReqStruct, macAddress, 0, "MAC", FieldKind::macAddress),
     RECORD_FIELD(bdgPvcReqStruct, vcIndex, 6, "VC", FieldKind::number),
-    RECORD_FIELD(bdgPvcReqStruct, encapsulation, 8, "encapsulation", FieldKind::words, &words::encapsulations),
-    RECORD_FIELD(bdgPvcReqStruct, broadcast, 9, "broadcast", FieldKind::words, &words::offOn),
+    RECORD_FIELD(bdgPvcReqStruct, encapsulation, 8, "encapsulation", FieldKind::words, words::encapsulations),
+    RECORD_FIELD(bdgPvcReqStruct, broadcast, 9, "broadcast", FieldKind::words, words::offOn),
     RECORD_FIELD(bdgPvcReqStruct, reserved, 10, "reserved", FieldKind::reserved),
 };
 static_assert(isLaidOut<bdgPvcReqStruct>(bdgPvcReqFields, true));
 
 inline constexpr RecordField lesReqFields[] = {
     RECORD_FIELD(lesReqStruct, elanName, 0, "ELAN", FieldKind::text),
-    RECORD_FIELD(lesReqStruct, elanNameStrict, 32, "name strict", FieldKind::words, &words::offOn),
-    RECORD_FIELD(lesReqStruct, mfs, 36, "MTU", FieldKind::words, &words::frameSizes),
-    RECORD_FIELD(lesReqStruct, mfsStrict, 40, "MTU strict", FieldKind::words, &words::offOn),
-    RECORD_FIELD(lesReqStruct, elanType, 44, "ELAN type", FieldKind::words, &words::serverElanTypes),
+    RECORD_FIELD(lesReqStruct, elanNameStrict, 32, "name strict", FieldKind::words, words::offOn),
+    RECORD_FIELD(lesReqStruct, mfs, 36, "MTU", FieldKind::words, words::frameSizes),
+    RECORD_FIELD(lesReqStruct, mfsStrict, 40, "MTU strict", FieldKind::words, words::offOn),
+    RECORD_FIELD(lesReqStruct, elanType, 44, "ELAN type", FieldKind::words, words::serverElanTypes),
     RECORD_FIELD(lesReqStruct, reserved, 48, "reserved", FieldKind::reserved),
 };
 static_assert(isLaidOut<lesReqStruct>(lesReqFields, true));
 
 inline constexpr RecordField lecsReqFields[] = {
     RECORD_FIELD(lecs_req, address, 0, "address", FieldKind::atmAddress),
-    RECORD_FIELD(lecs_req, elanType, 20, "ELAN type", FieldKind::words, &words::serverElanTypes),
-    RECORD_FIELD(lecs_req, etherMfs, 24, "Ethernet MTU", FieldKind::words, &words::frameSizes),
-    RECORD_FIELD(lecs_req, tokenRingMfs, 28, "Token Ring MTU", FieldKind::words, &words::frameSizes),
+    RECORD_FIELD(lecs_req, elanType, 20, "ELAN type", FieldKind::words, words::serverElanTypes),
+    RECORD_FIELD(lecs_req, etherMfs, 24, "Ethernet MTU", FieldKind::words, words::frameSizes),
+    RECORD_FIELD(lecs_req, tokenRingMfs, 28, "Token Ring MTU", FieldKind::words, words::frameSizes),
     RECORD_FIELD(lecs_req, esiSelector, 32, "ESI/selector", FieldKind::esiSelector),
     RECORD_FIELD(lecs_req, reserved, 39, "reserved", FieldKind::reserved),
     RECORD_FIELD(lecs_req, index, 40, "index", FieldKind::number),
@@ -56,14 +56,14 @@ inline constexpr RecordField ip1577ReqFields[] = {
     RECORD_FIELD(ip1577ReqStruct, serverIpMask, 8, "mask", FieldKind::ipNumber),
     RECORD_FIELD(ip1577ReqStruct, ipAddress, 12, "IP", FieldKind::ipNumber),
     RECORD_FIELD(ip1577ReqStruct, address, 16, "ARP server address", FieldKind::atmAddress),
-    RECORD_FIELD(ip1577ReqStruct, config, 36, "PVC only", FieldKind::words, &words::offOn),
+    RECORD_FIELD(ip1577ReqStruct, config, 36, "PVC only", FieldKind::words, words::offOn),
 };
 static_assert(isLaidOut<ip1577ReqStruct>(ip1577ReqFields, true));
 
 inline constexpr RecordField rtdPvcReqFields[] = {
     RECORD_FIELD(ip_pvc, ipAddress, 0, "IP", FieldKind::ipBytes),
     RECORD_FIELD(ip_pvc, vcIndex, 4, "VC", FieldKind::number),
-    RECORD_FIELD(ip_pvc, encapsulation, 6, "encapsulation", FieldKind::words, &words::encapsulations),
+    RECORD_FIELD(ip_pvc, encapsulation, 6, "encapsulation", FieldKind::words, words::encapsulations),
     RECORD_FIELD(ip_pvc, reserved, 7, "reserved", FieldKind::reserved),
 };
 static_assert(isLaidOut<ip_pvc>(rtdPvcReqFields, true));
@@ -71,29 +71,29 @@ static_assert(isLaidOut<ip_pvc>(rtdPvcReqFields, true));
 inline constexpr RecordField sigPortReqFields[] = {
     RECORD_FIELD(sig_port_req, run, 0, "run", FieldKind::number),
     RECORD_FIELD(sig_port_req, port, 1, "port", FieldKind::number),
-    RECORD_FIELD(sig_port_req, state, 2, "state", FieldKind::words, &words::portStates),
+    RECORD_FIELD(sig_port_req, state, 2, "state", FieldKind::words, words::portStates),
 };
 static_assert(isLaidOut<sig_port_req>(sigPortReqFields, true));
 
 inline constexpr RecordField sigTraceReqFields[] = {
     RECORD_FIELD(sig_trace_req, reserved, 0, "reserved", FieldKind::reserved),
-    RECORD_FIELD(sig_trace_req, selector, 1, "trace", FieldKind::words, &words::traceSelectors),
-    RECORD_FIELD(sig_trace_req, state, 2, "state", FieldKind::words, &words::offOn),
+    RECORD_FIELD(sig_trace_req, selector, 1, "trace", FieldKind::words, words::traceSelectors),
+    RECORD_FIELD(sig_trace_req, state, 2, "state", FieldKind::words, words::offOn),
 };
 static_assert(isLaidOut<sig_trace_req>(sigTraceReqFields, true));
 
 inline constexpr RecordField rlsReqFields[] = {
-    RECORD_FIELD(rls_req, primary, 0, "board type", FieldKind::words, &words::boardTypes),
+    RECORD_FIELD(rls_req, primary, 0, "board type", FieldKind::words, words::boardTypes),
     RECORD_FIELD(rls_req, backup, 4, "backup", FieldKind::signedNumber),
-    RECORD_FIELD(rls_req, autoSwitch, 8, "auto-switch", FieldKind::words, &words::offOn),
+    RECORD_FIELD(rls_req, autoSwitch, 8, "auto-switch", FieldKind::words, words::offOn),
 };
 static_assert(isLaidOut<rls_req>(rlsReqFields, true));
 
 inline constexpr RecordField enhancedFields[] = {
-    RECORD_FIELD(word_req, value, 0, "enhanced VC", FieldKind::words, &words::offOn),
+    RECORD_FIELD(word_req, value, 0, "enhanced VC", FieldKind::words, words::offOn),
 };
 inline constexpr RecordField framingFields[] = {
-    RECORD_FIELD(word_req, value, 0, "framing", FieldKind::words, &words::framings),
+    RECORD_FIELD(word_req, value, 0, "framing", FieldKind::words, words::framings),
 };
 inline constexpr RecordField vpiFields[] = {
     RECORD_FIELD(word_req, value, 0, "VPI", FieldKind::number),
@@ -106,7 +106,7 @@ inline constexpr RecordField sigPortCfgFields[] = {
     SIG_FIELD(port, 2, "port", FieldKind::number),
     SIG_FIELD(DaiAdminStatus, 3, "DaiAdminStatus", FieldKind::number),
     SIG_FIELD(runFlag4, 4, "run flag 2", FieldKind::number),
-    SIG_FIELD(UniRevision, 8, "UNI", FieldKind::words, &words::uniCodes),
+    SIG_FIELD(UniRevision, 8, "UNI", FieldKind::words, words::uniCodes),
     SIG_FIELD(SvcRangeStartVci, 12, "SvcRangeStartVci", FieldKind::number),
     SIG_FIELD(SvcRangeEndVci, 14, "SvcRangeEndVci", FieldKind::number),
     SIG_FIELD(PvcRangeStartVci, 16, "PvcRangeStartVci", FieldKind::number),

@@ -34,5 +34,5 @@ std::ostream& operator<<(std::ostream& os, const ip_pvc& record) {
 }
 
 std::ostream& operator<<(std::ostream& os, const vc_tbl& row) {
-  return os << row.vci << " " << row.counterIn << " " << row.counterOut;
+  return os << row.vci << " " << row.counterOut << " " << row.counterIn;
 }

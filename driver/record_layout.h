@@ -24,7 +24,7 @@ enum class FieldKind : std::uint8_t {
 
 // Words for numbers from `first` on.
 struct ValueWords {
-  std::uint32_t first;
+  std::uint32_t first = 0;
   std::span<const char* const> words;
 };
 
@@ -33,15 +33,14 @@ struct RecordField {
   std::uint16_t offset;  // from the start of the record
   std::uint16_t bytes;
   FieldKind kind;
-  const ValueWords* words = nullptr;
+  ValueWords words = {};  // of a field of words
 };
 
 using RecordLayout = std::span<const RecordField>;
 
 // A field of a table, by its offset and size as documented; they have to be the declaration's.
 template <std::size_t declaredOffset, std::size_t declaredBytes, std::size_t offset>
-constexpr RecordField checkedField(const char* name, FieldKind kind,
-                                   const ValueWords* words = nullptr) {
+constexpr RecordField checkedField(const char* name, FieldKind kind, const ValueWords& words = {}) {
   static_assert(declaredOffset == offset, "the record's field is not where it is documented");
   return {name, static_cast<std::uint16_t>(offset), static_cast<std::uint16_t>(declaredBytes), kind,
           words};
@@ -54,7 +53,7 @@ constexpr RecordField checkedField(const char* name, FieldKind kind,
 // Whether those fields have words that want them, and no others.
 constexpr bool hasItsWords(RecordLayout fields) {
   for (const RecordField& field : fields) {
-    if ((field.kind == FieldKind::words) != (field.words != nullptr)) return false;
+    if ((field.kind == FieldKind::words) == field.words.words.empty()) return false;
   }
   return true;
 }

@@ -33,7 +33,7 @@ inline constexpr RecordField aalStatsFields[] = {
 static_assert(isLaidOut<aal_stats>(aalStatsFields, false));
 
 inline constexpr RecordField suniStatsFields[] = {
-    RECORD_FIELD(suni_stats, medium, 0, "medium", FieldKind::words, &words::media),
+    RECORD_FIELD(suni_stats, medium, 0, "medium", FieldKind::words, words::media),
     RECORD_FIELD(suni_stats, answers, 4, "answers", FieldKind::number),
     RECORD_FIELD(suni_stats, linkUp, 8, "link up", FieldKind::number),
     RECORD_FIELD(suni_stats, oof, 12, "OOF", FieldKind::number),
@@ -50,15 +50,15 @@ inline constexpr RecordField packageRevFields[] = {
 };
 
 inline constexpr RecordField rlsStatusFields[] = {
-    RECORD_FIELD(rls_status, linkState, 0, "link state", FieldKind::words, &words::linkStates),
+    RECORD_FIELD(rls_status, linkState, 0, "link state", FieldKind::words, words::linkStates),
     RECORD_FIELD(rls_status, activeLink, 2, "active link", FieldKind::signedNumber),
 };
 static_assert(isLaidOut<rls_status>(rlsStatusFields, true));
 
 inline constexpr RecordField vcTableFields[] = {
     RECORD_FIELD(vc_tbl, vci, 0, "VCI", FieldKind::signedNumber),
-    RECORD_FIELD(vc_tbl, counterIn, 12, "in", FieldKind::number),
-    RECORD_FIELD(vc_tbl, counterOut, 16, "out", FieldKind::number),
+    RECORD_FIELD(vc_tbl, counterOut, 12, "out", FieldKind::number),
+    RECORD_FIELD(vc_tbl, counterIn, 16, "in", FieldKind::number),
 };
 static_assert(isLaidOut<vc_tbl>(vcTableFields, false));
 
@@ -67,14 +67,14 @@ inline constexpr RecordField boardMaxVcFields[] = {
 };
 
 inline constexpr RecordField lecStateFields[] = {
-    RECORD_FIELD(lec_state, state, 0, "state", FieldKind::words, &words::lecStates),
+    RECORD_FIELD(lec_state, state, 0, "state", FieldKind::words, words::lecStates),
     RECORD_FIELD(lec_state, ready, 12, "ready", FieldKind::number),
 };
 
 inline constexpr RecordField lecStatsFields[] = {
     RECORD_FIELD(lec_stats, address, 0, "address", FieldKind::atmAddress),
-    RECORD_FIELD(lec_stats, elanType, 20, "ELAN type", FieldKind::words, &words::serverElanTypes),
-    RECORD_FIELD(lec_stats, mtuType, 21, "MTU", FieldKind::words, &words::frameSizes),
+    RECORD_FIELD(lec_stats, elanType, 20, "ELAN type", FieldKind::words, words::serverElanTypes),
+    RECORD_FIELD(lec_stats, mtuType, 21, "MTU", FieldKind::words, words::frameSizes),
     RECORD_FIELD(lec_stats, elanName, 28, "ELAN", FieldKind::text),
     RECORD_FIELD(lec_stats, macAddress, 61, "MAC", FieldKind::macAddress),
     RECORD_FIELD(lec_stats, controlDirectAddress, 76, "control direct address", FieldKind::atmAddress),
@@ -90,7 +90,7 @@ static_assert(isLaidOut<lec_stats>(lecStatsFields, false));
 
 inline constexpr RecordField lecTableFields[] = {
     RECORD_FIELD(lec_tbl_t, macAddress, 0, "MAC", FieldKind::macAddress),
-    RECORD_FIELD(lec_tbl_t, connectionKind, 8, "kind", FieldKind::words, &words::connections),
+    RECORD_FIELD(lec_tbl_t, connectionKind, 8, "kind", FieldKind::words, words::connections),
     RECORD_FIELD(lec_tbl_t, address, 15, "address", FieldKind::atmAddress),
     RECORD_FIELD(lec_tbl_t, vci, 38, "VCI", FieldKind::number),
     RECORD_FIELD(lec_tbl_t, txPackets, 48, "tx packets", FieldKind::number),
@@ -99,14 +99,14 @@ inline constexpr RecordField lecTableFields[] = {
 static_assert(isLaidOut<lec_tbl_t>(lecTableFields, false));
 
 inline constexpr RecordField lesStateFields[] = {
-    RECORD_FIELD(les_state, state, 0, "state", FieldKind::words, &words::lesStates),
+    RECORD_FIELD(les_state, state, 0, "state", FieldKind::words, words::lesStates),
     RECORD_FIELD(les_state, serving, 8, "serving", FieldKind::number),
 };
 
 inline constexpr RecordField lesStatsFields[] = {
     RECORD_FIELD(les_stats, address, 0, "address", FieldKind::atmAddress),
-    RECORD_FIELD(les_stats, elanType, 20, "ELAN type", FieldKind::words, &words::serverElanTypes),
-    RECORD_FIELD(les_stats, mtuType, 21, "MTU", FieldKind::words, &words::frameSizes),
+    RECORD_FIELD(les_stats, elanType, 20, "ELAN type", FieldKind::words, words::serverElanTypes),
+    RECORD_FIELD(les_stats, mtuType, 21, "MTU", FieldKind::words, words::frameSizes),
     RECORD_FIELD(les_stats, busAddress, 32, "BUS address", FieldKind::atmAddress),
     RECORD_FIELD(les_stats, elanName, 80, "ELAN", FieldKind::text),
 };
@@ -115,7 +115,7 @@ static_assert(isLaidOut<les_stats>(lesStatsFields, false));
 inline constexpr RecordField lesTableFields[] = {
     RECORD_FIELD(les_tbl, macAddress, 2, "MAC", FieldKind::macAddress),
     RECORD_FIELD(les_tbl, address, 8, "address", FieldKind::atmAddress),
-    RECORD_FIELD(les_tbl, state, 36, "state", FieldKind::words, &words::busStates),
+    RECORD_FIELD(les_tbl, state, 36, "state", FieldKind::words, words::busStates),
     RECORD_FIELD(les_tbl, controlDirectVci, 40, "control direct VCI", FieldKind::number),
     RECORD_FIELD(les_tbl, controlDirectTx, 44, "control direct tx", FieldKind::number),
     RECORD_FIELD(les_tbl, controlDirectRx, 48, "control direct rx", FieldKind::number),
@@ -126,14 +126,14 @@ inline constexpr RecordField lesTableFields[] = {
 static_assert(isLaidOut<les_tbl>(lesTableFields, false));
 
 inline constexpr RecordField lecsStateFields[] = {
-    RECORD_FIELD(lecs_state, state, 0, "state", FieldKind::words, &words::lecsStates),
+    RECORD_FIELD(lecs_state, state, 0, "state", FieldKind::words, words::lecsStates),
 };
 
 inline constexpr RecordField lecsStatsFields[] = {
     RECORD_FIELD(lecs_stats, address, 0, "address", FieldKind::atmAddress),
-    RECORD_FIELD(lecs_stats, elanType, 20, "ELAN type", FieldKind::words, &words::serverElanTypes),
-    RECORD_FIELD(lecs_stats, etherMtuType, 21, "Ethernet MTU", FieldKind::words, &words::frameSizes),
-    RECORD_FIELD(lecs_stats, tokenRingMtuType, 22, "Token Ring MTU", FieldKind::words, &words::frameSizes),
+    RECORD_FIELD(lecs_stats, elanType, 20, "ELAN type", FieldKind::words, words::serverElanTypes),
+    RECORD_FIELD(lecs_stats, etherMtuType, 21, "Ethernet MTU", FieldKind::words, words::frameSizes),
+    RECORD_FIELD(lecs_stats, tokenRingMtuType, 22, "Token Ring MTU", FieldKind::words, words::frameSizes),
     RECORD_FIELD(lecs_stats, registered, 24, "registered", FieldKind::number),
     RECORD_FIELD(lecs_stats, validRequests, 28, "valid requests", FieldKind::number),
     RECORD_FIELD(lecs_stats, invalidRequests, 32, "invalid requests", FieldKind::number),
@@ -151,7 +151,7 @@ inline constexpr RecordField lecsTableFields[] = {
 static_assert(isLaidOut<lecs_tbl>(lecsTableFields, true));
 
 inline constexpr RecordField ipStateFields[] = {
-    RECORD_FIELD(ip_state, state, 0, "state", FieldKind::words, &words::ipStates),
+    RECORD_FIELD(ip_state, state, 0, "state", FieldKind::words, words::ipStates),
 };
 
 inline constexpr RecordField ipStatsFields[] = {
@@ -160,7 +160,7 @@ inline constexpr RecordField ipStatsFields[] = {
 
 inline constexpr RecordField ipTableFields[] = {
     RECORD_FIELD(ip_tbl, state, 0, "state", FieldKind::number),
-    RECORD_FIELD(ip_tbl, connectionKind, 2, "kind", FieldKind::words, &words::connections),
+    RECORD_FIELD(ip_tbl, connectionKind, 2, "kind", FieldKind::words, words::connections),
     RECORD_FIELD(ip_tbl, vci, 12, "VCI", FieldKind::number),
     RECORD_FIELD(ip_tbl, txPackets, 20, "tx packets", FieldKind::number),
     RECORD_FIELD(ip_tbl, rxPackets, 24, "rx packets", FieldKind::number),

@@ -63,7 +63,8 @@ Answer serve(const Lookup& found, Request& request) {
   if (found.operation == nullptr) return found.failure;
   const Operation& operation = *found.operation;
   if (request.head.Link >= boardSlots) return Answer::badLink;
-  if (request.head.Unit > lastUnit && operation.target != Target::boardRow) return Answer::badUnit;
+  if (request.head.Unit > lastUnit && operation.target != Target::singleService)
+    return Answer::badUnit;
   if (operation.target != Target::driver)
     if (const Answer answer = checkBoard(request.board()); answer != Answer::done) return answer;
   if (request.inputBytes < operation.inputBytes) return Answer::badInput;

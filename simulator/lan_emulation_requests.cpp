@@ -206,6 +206,7 @@ Answer mappingRows(Request& request) {
 }
 
 constexpr auto board = Target::board;
+constexpr auto single = Target::singleService;
 
 constexpr Operation operations[] = {
     controlOperation(Control::LecEnable, board, enableClient),
@@ -223,11 +224,11 @@ constexpr Operation operations[] = {
     queryOperation(Query::LesStats, serverStatistics),
     countOperation(Query::LesTable, serverRowCount),
     tableOperation(Query::LesTable, serverRows),
-    controlOperation(Control::LecsEnable, board, enableConfigServer),
-    controlOperation(Control::LecsDisable, board, disableConfigServer),
-    controlOperation(Control::LecsAddClient, Target::boardRow, addMapping),
-    controlOperation(Control::LecsDeleteClient, Target::boardRow, deleteMapping),
-    controlOperation(Control::LecsGo, board, startConfigServer),
+    controlOperation(Control::LecsEnable, single, enableConfigServer),
+    controlOperation(Control::LecsDisable, single, disableConfigServer),
+    controlOperation(Control::LecsAddClient, single, addMapping),
+    controlOperation(Control::LecsDeleteClient, single, deleteMapping),
+    controlOperation(Control::LecsGo, single, startConfigServer),
     queryOperation(Query::LecsState, configServerState),
     queryOperation(Query::LecsStats, configServerStatistics),
     countOperation(Query::LecsTable, mappingCount),

@@ -32,10 +32,9 @@ std::int32_t signedNumberOf(ByteView bytes) {
 
 std::string wordOf(const RecordField& field, ByteView bytes) {
   const std::uint32_t number = numberOf(bytes);
-  const std::uint32_t place = number - field.words->first;
-  return number >= field.words->first && place < field.words->words.size()
-             ? field.words->words[place]
-             : std::to_string(number);
+  const std::uint32_t place = number - field.words.first;
+  return number >= field.words.first && place < field.words.words.size() ? field.words.words[place]
+                                                                         : std::to_string(number);
 }
 
 // Up to the terminator or the end, with bytes that are no printable ASCII as \xNN.

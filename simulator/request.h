@@ -65,9 +65,9 @@ constexpr std::uint16_t sigHeadBytes = signallingDataOffset - plainDataOffset;
 
 enum class OperationKind { plain, rowCount, table };
 
-// What a request is about: no board, the one in Link, or one whose Unit is a row of a table and so
-// any number.
-enum class Target { driver, board, boardRow };
+// What a request is about: no board, the one in Link, or a service of it that there is one of,
+// whose Unit is a row of its table or left over from one.
+enum class Target { driver, board, singleService };
 
 // One entry of a dispatch table.
 struct Operation {

@@ -129,10 +129,10 @@ TEST(Decode, QueriesAndTheirAnswers) {
   row.counterIn = 7;
   const std::string table = "prim=1 type=4 link=0 unit=0 rowm=3 nrow=50";
   EXPECT_EQ(decoded(table, "errno=0 resp=0 nrow=1 out=" + hexOf(row)),
-            start + "circuits, table, 50 rows from 3 -> done: 1 row\n    VCI 5, in 7, out 0");
+            start + "circuits, table, 50 rows from 3 -> done: 1 row\n    VCI 5, out 0, in 7");
   EXPECT_EQ(decoded(table, "errno=0 resp=0 nrow=60000 out=" + hexOf(row)),
             start +
-                "circuits, table, 50 rows from 3 -> done: 60000 rows\n    VCI 5, in 7, out 0\n"
+                "circuits, table, 50 rows from 3 -> done: 60000 rows\n    VCI 5, out 0, in 7\n"
                 "    no bytes of more rows");
   EXPECT_EQ(
       decoded("prim=33 type=1 link=0 unit=0", "errno=0 resp=0 nrow=0 out=" + sigHead +

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <random>
 
 #include "driver/control_table.h"
 #include "driver/query_table.h"
@@ -172,7 +173,8 @@ TEST_F(Services, TheConfigurationServerTakesMappings) {
   EXPECT_NE(rows.as<lecs_tbl>(9).kind, 2);
   EXPECT_EQ(control(Control::LecsDeleteClient, 255, record), Answer::done);
   EXPECT_EQ(control(Control::LecsDeleteClient, 255, record), Answer::noSuchEntry);
-  EXPECT_EQ(control(Control::LecsGo, 16), Answer::badUnit);
+  EXPECT_EQ(control(Control::LecsGo, 255), Answer::done) << "with a row left over in the head";
+  EXPECT_EQ(control(Control::LesDisable, 16), Answer::badUnit);
   EXPECT_EQ(control(Control::LecsDisable), Answer::done);
   EXPECT_EQ(count(Query::LecsTable), 0);
 }
@@ -207,6 +209,26 @@ TEST_F(Services, SignallingTakesItsRecord) {
   EXPECT_EQ(control(Control::SigPort, 0, sig_port_req{1, 0, 2}), Answer::done);
   EXPECT_EQ(ask(Query::LinkState).as<sig_link_state>(8).signalling, 255);
   EXPECT_EQ(control(Control::SigDebugTrace, 0, LisimBytes(264)), Answer::done);
+}
+
+// Whatever is in the records, every request is answered, and every query after it.
+TEST_F(Services, OutliveAnyRecord) {
+  EXPECT_EQ(lisim.command("board 1 maxvc 70000\nboard 1 vcs 65534"), "ok\nok\n");
+  std::mt19937 random(11);
+  const auto roll = [&](unsigned sides) { return static_cast<std::uint8_t>(random() % sides); };
+  for (int round = 0; round < 4000; ++round) {
+    const ControlForm& form = controlForms[random() % std::size(controlForms)];
+    LisimBytes payload(form.frameBytes - sizeof(req_param_t));
+    const unsigned sides = roll(4) == 0 ? 256 : 3;
+    for (std::uint8_t& byte : payload) byte = roll(sides);
+    req_param_t head =
+        LisimClient::lisimHead(form.prim, form.type, roll(2), form.frameBytes, form.inputBytes);
+    head.Unit = roll(16);
+    ASSERT_EQ(client.exchange(head, payload).wire.code, 0U) << form.name;
+    if (round % 40 != 0) continue;
+    for (const QueryForm& query : queryForms)
+      ASSERT_EQ(client.query(query.prim, query.type, roll(2), 300).wire.code, 0U);
+  }
 }
 
 // What time does, without a process: signalling layer by layer, then what waits for it.
