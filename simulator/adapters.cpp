@@ -87,6 +87,10 @@ void Adapters::settle(Milliseconds at) {
 void Adapters::startTraffic(Milliseconds at) {
   for (int index = 0; index < boardSlots; ++index) {
     Board& one = board(index);
+    if (one.well() != one.wasWell) {
+      one.wasWell = one.well();
+      one.lineSince = at;
+    }
     const bool carries =
         one.role == Role::primary ? one.carrier == index : servedBy(index) != noBoard;
     one.traffic.set(one.well() && carries, at);

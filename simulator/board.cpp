@@ -53,7 +53,7 @@ suni_stats suniStatsOf(const Board& board) {
 }
 
 ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step) {
-  return {board.services, board.mac, board.well(), now, step};
+  return {board.services, board.mac, board.well(), board.lineSince, now, step};
 }
 
 namespace {

@@ -74,6 +74,9 @@ struct Board {
   TrafficClock traffic;
   Services services;
 
+  Milliseconds lineSince = 0;  // when it last became well or unwell
+  bool wasWell = false;        // then
+
   // There, answering, and its line up.
   bool well() const { return presence == Presence::present && linkUp; }
 };

@@ -52,9 +52,13 @@ Milliseconds ServiceView::waited(Milliseconds since) const {
   return now - std::min(since, now);
 }
 
+Milliseconds ServiceView::signallingStart() const {
+  return std::max(services.signalling.since, lineSince);
+}
+
 std::uint32_t ServiceView::signallingSteps() const {
   if (!lineWell || !services.signalling.portEnabled) return 0;
-  const Milliseconds passed = waited(services.signalling.since);
+  const Milliseconds passed = waited(signallingStart());
   return step == 0 ? sigSteps
                    : static_cast<std::uint32_t>(std::min<Milliseconds>(passed / step, sigSteps));
 }
@@ -69,7 +73,7 @@ std::uint32_t ServiceView::joinState(bool enabled, bool pvcOnly, Milliseconds si
   if (!enabled) return serviceOff;
   if (pvcOnly) return operational;
   if (!signallingUp()) return serviceJoining;
-  const Milliseconds start = std::max(since, services.signalling.since + sigSteps * step);
+  const Milliseconds start = std::max(since, signallingStart() + sigSteps * step);
   const Milliseconds steps = step == 0 ? operational : waited(start) / step;
   return static_cast<std::uint32_t>(std::min<Milliseconds>(serviceJoining + steps, operational));
 }

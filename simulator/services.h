@@ -1,9 +1,9 @@
 // The services of a board, as requests have set them up, and what time makes of them.
 //
-// Signalling comes up layer by layer once its port is enabled and the line is well, a step a layer.
-// Clients that want an ELAN or an ARP server wait for it and then join step by step; those with
-// permanent circuits alone work at once. A service that is stopped forgets its circuits and
-// clients.
+// Signalling comes up layer by layer once its port is enabled and the line is well, a step a layer,
+// and anew when the line has been down. Clients that want an ELAN or an ARP server wait for it and
+// then join step by step; those with permanent circuits alone work at once. A service that is
+// stopped forgets its circuits and clients.
 #pragma once
 
 #include <array>
@@ -75,6 +75,7 @@ struct ServiceView {
   const Services& services;
   std::span<const std::uint8_t> mac;  // the board's, 6 bytes
   bool lineWell;
+  Milliseconds lineSince;  // how long it has been so
   Milliseconds now;
   Milliseconds step;  // between two states on the way up
 
@@ -96,6 +97,7 @@ struct ServiceView {
 
  private:
   Milliseconds waited(Milliseconds since) const;
+  Milliseconds signallingStart() const;
   std::uint32_t joinState(bool enabled, bool pvcOnly, Milliseconds since,
                           std::uint32_t operational) const;
   std::uint32_t signallingSteps() const;

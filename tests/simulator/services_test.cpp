@@ -249,7 +249,7 @@ TEST(ServiceTimes, ServicesComeUpInOrder) {
                             {700, 2, 9, 1, 5, 5}, {800, 2, 9, 1, 6, 5}, {9000, 2, 9, 1, 6, 5}};
   for (const Moment& at : moments) {
     SCOPED_TRACE(at.time);
-    const lisim::ServiceView view{services, mac, true, at.time, 100};
+    const lisim::ServiceView view{services, mac, true, 0, at.time, 100};
     const sig_link_state state = view.linkState();
     EXPECT_EQ(state.ilmi, at.ilmi);
     EXPECT_EQ(state.saal, at.saal);
@@ -259,9 +259,12 @@ TEST(ServiceTimes, ServicesComeUpInOrder) {
     EXPECT_EQ(view.ipState(), static_cast<std::uint32_t>(at.ip));
     EXPECT_EQ(view.circuits().size(), at.client == 6 ? 6U : 2U);
   }
-  const lisim::ServiceView dead{services, mac, false, 9000, 100};
+  const lisim::ServiceView dead{services, mac, false, 9000, 9100, 100};
   EXPECT_EQ(dead.clientState(0), 1U);
   EXPECT_EQ(dead.linkState().signalling, 0);
+  const lisim::ServiceView again{services, mac, true, 9200, 9500, 100};
+  EXPECT_EQ(again.linkState().signalling, 1);
+  EXPECT_EQ(again.clientState(0), 1U) << "joins anew";
 }
 
 }  // namespace
