@@ -80,17 +80,22 @@ void Adapters::settle(Milliseconds at) {
     for (int index = 0; index < boardSlots; ++index) moved |= settlePrimary(index, at);
     if (!moved) break;
   }
+  noteLines(at);
   startTraffic(at);
+}
+
+void Adapters::noteLines(Milliseconds at) {
+  for (Board& one : boards_) {
+    if (one.well() == one.wasWell) continue;
+    one.wasWell = one.well();
+    one.lineSince = at;
+  }
 }
 
 // Only a board that carries a link has traffic, whatever state it is told to report.
 void Adapters::startTraffic(Milliseconds at) {
   for (int index = 0; index < boardSlots; ++index) {
     Board& one = board(index);
-    if (one.well() != one.wasWell) {
-      one.wasWell = one.well();
-      one.lineSince = at;
-    }
     const bool carries =
         one.role == Role::primary ? one.carrier == index : servedBy(index) != noBoard;
     one.traffic.set(one.well() && carries, at);

@@ -61,6 +61,7 @@ class Adapters {
   int servedBy(int backup) const;
   bool settlePrimary(int index, Milliseconds at);
   void settle(Milliseconds at);
+  void noteLines(Milliseconds at);
   void startTraffic(Milliseconds at);
   void leavePair(int index);
   Board* firstReturn(Milliseconds until);

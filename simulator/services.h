@@ -75,7 +75,7 @@ struct ServiceView {
   const Services& services;
   std::span<const std::uint8_t> mac;  // the board's, 6 bytes
   bool lineWell;
-  Milliseconds lineSince;  // how long it has been so
+  Milliseconds lineSince;  // when that began
   Milliseconds now;
   Milliseconds step;  // between two states on the way up
 
