@@ -244,6 +244,9 @@ std::optional<std::string> eventText(const std::string& line, const Fields& aske
 }  // namespace
 
 std::optional<std::string> decodeLine(const std::string& line) {
+  // Nothing that a terminal would obey.
+  const auto isControl = [](unsigned char byte) { return byte < ' ' || byte == 0x7f; };
+  if (std::ranges::any_of(line, isControl)) return std::nullopt;
   const std::string padded = " " + line;
   const std::size_t arrow = padded.find(" ->");
   const Fields asked(std::string_view(padded).substr(0, arrow));

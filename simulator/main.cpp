@@ -11,19 +11,24 @@
 
 namespace {
 
-enum ExitStatus { decoded = 0, cannotRead = 1, badInput = 2 };
+enum ExitStatus { decoded = 0, failed = 1, badInput = 2 };
+
+int complain(const std::string& name) {
+  std::fprintf(stderr, "lisim: %s: %s\n", name.c_str(), std::strerror(errno));
+  return failed;
+}
 
 int decode(const std::string& path) {
   std::ifstream file;
   if (path != "-") {
     file.open(path);
-    if (!file) {
-      std::fprintf(stderr, "lisim: %s: %s\n", path.c_str(), std::strerror(errno));
-      return cannotRead;
-    }
+    if (!file) return complain(path);
   }
   std::istream& trace = path == "-" ? std::cin : file;
-  return lisim::decodeTrace(trace, std::cout, std::cerr) ? decoded : badInput;
+  const bool good = lisim::decodeTrace(trace, std::cout, std::cerr);
+  if (trace.bad()) return complain(path);
+  if (!std::cout.flush()) return complain("standard output");
+  return good ? decoded : badInput;
 }
 
 }  // namespace

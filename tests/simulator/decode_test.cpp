@@ -168,11 +168,12 @@ TEST(Decode, NamesLinesThatAreNone) {
   const std::string good = "time=5 session=3 event=close why=\"x\"\n";
   std::istringstream in(good + "rubbish\n\n" + good +
                         "time=5 session=3 event=request prim=17 type=1 in=4\ntime=5x session=3 "
-                        "event=close\ntime=5 session=3 event=party\ntime=5 session=3 event=close");
+                        "event=close\ntime=5 session=3 event=party\ntime=5 session=3 event=close "
+                        "why=\"\x1b[2J\"\ntime=5 session=3 event=close");
   std::ostringstream out, errors;
   EXPECT_FALSE(lisim::decodeTrace(in, out, errors));
   std::string named;
-  for (const int line : {2, 3, 5, 6, 7})
+  for (const int line : {2, 3, 5, 6, 7, 8})
     named += "lisim: line " + std::to_string(line) + " is no line of a trace\n";
   EXPECT_EQ(errors.str(), named);
   EXPECT_EQ(out.str(),
