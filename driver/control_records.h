@@ -104,10 +104,11 @@ using rtdPvcReqStruct = ip_pvc;
 // Changes the signalling record of a board: `sigPortCfg_s` itself.
 
 // Starts or stops signalling on a board.
+enum SigPortState : std::uint8_t { sigPortEnabled = 1, sigPortDisabled = 2 };
 struct sig_port_req {
   std::uint8_t run = 1;
   std::uint8_t port = 0;   // adapter
-  std::uint8_t state = 0;  // 1 enabled, 2 disabled
+  std::uint8_t state = 0;  // a SigPortState
 };
 static_assert(sizeof(sig_port_req) == 3);
 
@@ -132,6 +133,14 @@ struct word_req {
   std::uint32_t value = 0;
 };
 static_assert(sizeof(word_req) == 4);
+
+// The payload that `record` makes.
+template <class Payload, class Record>
+Payload payloadOf(const Record& record) {
+  Payload payload;
+  payload = record;
+  return payload;
+}
 
 // The log's form: every byte in hexadecimal, three columns each, ten to a line.
 std::ostream& operator<<(std::ostream& os, const lecs_req& record);

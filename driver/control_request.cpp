@@ -1,9 +1,5 @@
 #include "driver/control_request.h"
 
-#include <ostream>
-
-#include "foundation/odlog.h"
-
 namespace {
 
 constexpr unsigned short enableType = 1;

@@ -2,8 +2,11 @@
 // sending it, and the on and off of the service.
 #pragma once
 
+#include <ostream>
+
 #include "driver/control_table.h"
 #include "driver/request.h"
+#include "foundation/odlog.h"
 
 class ControlRequest : public reqParam, public Enabler {
  protected:
@@ -20,14 +23,29 @@ class ControlRequest : public reqParam, public Enabler {
     fill(formOf(control), &record, sizeof record);
   }
 
-  static void logLine(Control control);
-
   // prepare, the control's line in the log, and the request. Returns what daiRequest returned.
   int send(Control control);
   template <class Record>
   int send(Control control, const Record& record) {
     prepare(control, record);
     logLine(control);
+    return daiRequest();
+  }
+
+  // send, with the record's dump behind the line in the log.
+  template <class Record>
+  int sendDumped(Control control, const Record& record) {
+    prepare(control, record);
+    logLine(control);
+    odlog << record << std::endl;
+    return daiRequest();
+  }
+
+  // send for a request that carries one word, which stands in the log's line.
+  template <class Value>
+  int sendWord(Control control, Value value) {
+    prepare(control, word_req{static_cast<std::uint32_t>(value)});
+    odlog << formOf(control).logLine << value << std::endl;
     return daiRequest();
   }
 
@@ -42,5 +60,6 @@ class ControlRequest : public reqParam, public Enabler {
   int stop(Control control);
 
  private:
+  static void logLine(Control control);
   void fill(const ControlForm& form, const void* record, std::size_t bytes);
 };

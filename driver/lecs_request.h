@@ -26,11 +26,8 @@ class lecsRequest : public ControlRequest {
   int restart(unsigned char link, unsigned char unit) { return go(link, unit); }
 
   // A client mapping; the unit is the client's row.
-  int addClient(const lecs_req& client) { return sendClient(Control::LecsAddClient, client); }
+  int addClient(const lecs_req& client) { return sendDumped(Control::LecsAddClient, client); }
   int addClient(const lecs_req& client, unsigned char link, unsigned char unit);
-  int delClient(const lecs_req& client) { return sendClient(Control::LecsDeleteClient, client); }
+  int delClient(const lecs_req& client) { return sendDumped(Control::LecsDeleteClient, client); }
   int delClient(const lecs_req& client, unsigned char link, unsigned char unit);
-
- private:
-  int sendClient(Control control, const lecs_req& client);
 };

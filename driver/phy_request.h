@@ -10,8 +10,8 @@ class phyRequest : public ControlRequest {
                        formOf(Control::PhySetFraming).frameBytes, 0) {}
 
   // Each sends one request and returns what daiRequest returned.
-  int set_Framing(long framing);
-  int setVpi(unsigned int vpi);
+  int set_Framing(long framing) { return sendWord(Control::PhySetFraming, framing); }
+  int setVpi(unsigned int vpi) { return sendWord(Control::PhySetVpi, vpi); }
   int setRLS(const rls_req* request);
   // Switches the link of the pair that `board` belongs to; the board stays in the frame's head.
   int do_RLS_Switch(unsigned short board);

@@ -1,9 +1,5 @@
 #include "driver/sig_request.h"
 
-#include <ostream>
-
-#include "foundation/odlog.h"
-
 sigRequest::sigRequest(int descriptor, unsigned short link, unsigned short unit)
     : ControlRequest(descriptor, primSigControl, link, unit, signallingFrameBytes, 0) {
   setDataOffset(signallingDataOffset);

@@ -12,7 +12,7 @@ class sigRequest : public ControlRequest {
 
   // Hands the record over, marked as an update of this object's adapter.
   int UpdateCfg(const sigPortCfg_s& cfg);
-  // Starts (1) or stops (2) signalling.
+  // Starts or stops signalling: `state` is a SigPortState.
   int PortEnableDisable(unsigned char state);
   // Switches one of the driver's traces: 1 API, 2 signalling, 4 ILMI.
   int setDebugTrace(unsigned char selector, unsigned char state);

@@ -19,8 +19,6 @@
 namespace {
 
 constexpr int readWriteSession = 2;
-constexpr unsigned char portEnabled = 1;
-constexpr unsigned char portDisabled = 2;
 
 // What is compared of each service. The lists of PVCs and clients are not: their editors have told
 // the driver already.
@@ -92,13 +90,11 @@ void logFailure(const char* line, const reqParam& request) {
 }
 
 void startClient(lecRequest& request, const AtmLEC& lec, int client) {
-  lecReqStruct record;
-  record = lec;
-  if (request.enable(record) != 0) logFailure("LEC:Enable - DAI returned error(", request);
+  if (request.enable(payloadOf<lecReqStruct>(lec)) != 0)
+    logFailure("LEC:Enable - DAI returned error(", request);
   for (const AtmBridgedPvc& pvc : lec.pvcs) {
-    bdgPvcReqStruct circuit;
-    circuit = pvc;
-    if (request.addPvc(circuit) != 0) logFailure("LEC:Add PVC - DAI returned error(", request);
+    if (request.addPvc(payloadOf<bdgPvcReqStruct>(pvc)) != 0)
+      logFailure("LEC:Add PVC - DAI returned error(", request);
   }
   const std::int16_t enhanced = xferBuffer[client].EnhancedVC;
   if (enhanced == prevLecBuffer[client].EnhancedVC) return;
@@ -107,10 +103,8 @@ void startClient(lecRequest& request, const AtmLEC& lec, int client) {
 }
 
 void startServer(lesRequest& request, const AtmLES& les) {
-  lesReqStruct record;
-  record = les;
   request.disable();
-  request.enable(record);
+  request.enable(payloadOf<lesReqStruct>(les));
 }
 
 // The clients are numbered anew for each server, and which server it is the driver is not told.
@@ -128,13 +122,10 @@ void addMappedClients(lecsRequest& request, lecs_req& record, short adapter) {
 }
 
 void startIp1577(ip1577Request& request, const AtmIP1577& ip) {
-  ip1577ReqStruct record;
-  record = ip;
-  request.enable(record);
+  request.enable(payloadOf<ip1577ReqStruct>(ip));
   for (const AtmRoutedPvc& pvc : ip.pvcs) {
-    rtdPvcReqStruct circuit;
-    circuit = pvc;
-    if (request.addPvc(circuit) != 0) logFailure("IP1577:Add PVC - DAI returned error(", request);
+    if (request.addPvc(payloadOf<rtdPvcReqStruct>(pvc)) != 0)
+      logFailure("IP1577:Add PVC - DAI returned error(", request);
   }
 }
 
@@ -204,8 +195,7 @@ void applyConfigServer(short adapter, const ChangeSession& session) {
     request.disable();
     return;
   }
-  lecs_req record;
-  record = lecs;
+  auto record = payloadOf<lecsReqStruct>(lecs);
   request.enable(record);
   addMappedClients(request, record, adapter);
 }
@@ -233,7 +223,7 @@ bool applySignalling(short adapter, const ChangeSession& session) {
   sigRequest request(session.descriptor(), linkOf(adapter), 0);
   if (request.UpdateCfg(sig.cfg) != 0)
     logFailure("Signalling:Update Config - DAI returned error(", request);
-  request.PortEnableDisable(sig.Enabled ? portEnabled : portDisabled);
+  request.PortEnableDisable(sig.Enabled ? sigPortEnabled : sigPortDisabled);
   return true;
 }
 

@@ -2,7 +2,6 @@
 // buffers to the records, the driver and the file.
 #include <unistd.h>
 
-#include <algorithm>
 #include <ostream>
 
 #include "applet/run_state.h"
@@ -87,7 +86,7 @@ int DMainDlg::clickedSetupBTN(zNotifyEvt*) {
 void DMainDlg::keepSetup(short adapter) {
   MapXferBufferToData(adapter);
   logWrite(" w> WriteLink(", adapter);
-  if (driverPdf_) driverPdf_->WriteLink(static_cast<short>(currentAdapter));
+  if (driverPdf_) driverPdf_->WriteLink(adapter);
 }
 
 // The editors of circuits and clients have told the driver while Setup was open, so their lists are
@@ -99,10 +98,9 @@ void DMainDlg::keepSetupLists(short adapter) {
   logWrite(" w> WriteRoutedPVCs(", adapter);
   logWrite(" w> WriteBridgedPVCs(", adapter);
   logWrite(" w> WriteMappedClients(", adapter);
-  const auto current = static_cast<short>(currentAdapter);
-  driverPdf_->WriteRoutedPVCs(current);
-  driverPdf_->WriteBridgedPVCs(current);
-  driverPdf_->WriteMappedClients(current);
+  driverPdf_->WriteRoutedPVCs(adapter);
+  driverPdf_->WriteBridgedPVCs(adapter);
+  driverPdf_->WriteMappedClients(adapter);
 }
 
 void DMainDlg::MapDataToXferBuffer(short adapter) {

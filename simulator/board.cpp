@@ -24,10 +24,22 @@ constexpr std::uint32_t suni_stats::*alarmWords[alarmKinds] = {&suni_stats::los,
 
 // QSAAL's and ILMI's well-known circuits, and where the others start.
 constexpr std::uint16_t signallingVcis[] = {5, 16};
+constexpr std::size_t signallingRows = std::size(signallingVcis);
 constexpr std::size_t firstDataVci = 33;
 
 // So that the rows of one table do not all show one number.
 constexpr std::uint32_t rowSpread = 1000;
+
+std::uint16_t ownVci(std::size_t row) {
+  return row < signallingRows ? signallingVcis[row]
+                              : static_cast<std::uint16_t>(firstDataVci + (row - signallingRows));
+}
+
+bool isOwnVci(const Board& board, std::uint16_t vci) {
+  for (std::size_t row = 0; row < std::min<std::size_t>(signallingRows, board.vcRows); ++row)
+    if (signallingVcis[row] == vci) return true;
+  return vci >= firstDataVci && vci - firstDataVci + signallingRows < board.vcRows;
+}
 
 }  // namespace
 
@@ -55,23 +67,6 @@ suni_stats suniStatsOf(const Board& board) {
 ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step) {
   return {board.services, board.mac, board.well(), board.lineSince, now, step};
 }
-
-namespace {
-
-std::uint16_t ownVci(std::size_t row) {
-  constexpr std::size_t fixed = std::size(signallingVcis);
-  return row < fixed ? signallingVcis[row]
-                     : static_cast<std::uint16_t>(firstDataVci + (row - fixed));
-}
-
-bool isOwnVci(const Board& board, std::uint16_t vci) {
-  constexpr std::size_t fixed = std::size(signallingVcis);
-  for (std::size_t row = 0; row < std::min<std::size_t>(fixed, board.vcRows); ++row)
-    if (signallingVcis[row] == vci) return true;
-  return vci >= firstDataVci && vci - firstDataVci + fixed < board.vcRows;
-}
-
-}  // namespace
 
 std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services) {
   std::vector<std::uint16_t> vcis;

@@ -125,12 +125,8 @@ Reply setDelay(Simulator& simulator, const Values& values, Milliseconds) {
   return {};
 }
 
-// As the port request, without its checks.
 Reply setSignalling(Simulator& simulator, const Values& values, Milliseconds now) {
-  Signalling& signalling = boardOf(simulator, values).services.signalling;
-  const bool up = values[1].number != 0;
-  if (up && !signalling.portEnabled) signalling.since = now;
-  signalling.portEnabled = up;
+  boardOf(simulator, values).services.signalling.enablePort(values[1].number != 0, now);
   return {};
 }
 

@@ -221,8 +221,7 @@ std::string answerText(const Exchange& exchange, std::string_view text) {
   return "done" + late + replyText(exchange, answered);
 }
 
-std::optional<std::string> eventText(const std::string& line, const Fields& asked,
-                                     std::string_view answer) {
+std::optional<std::string> eventText(const Fields& asked, std::string_view answer) {
   const auto event = asked.word("event");
   if (!event) return std::nullopt;
   if (*event == "open") {
@@ -231,9 +230,8 @@ std::optional<std::string> eventText(const std::string& line, const Fields& aske
            number(asked.numberOr("uid", 0)) + " -> " +
            (error ? "errno " + number(error) : std::string("done"));
   }
-  if (*event == "close") return "close: " + std::string(asked.word("why").value_or(""));
-  if (*event == "malformed")
-    return "malformed: " + std::string(Fields(line).word("why").value_or(""));
+  if (*event == "close" || *event == "malformed")
+    return std::string(*event) + ": " + std::string(asked.word("why").value_or(""));
   if (*event != "request") return std::nullopt;
   if (!asked.number("prim")) return "a frame without a whole head -> " + answerText({}, answer);
   const auto exchange = readExchange(asked);
@@ -255,7 +253,7 @@ std::optional<std::string> decodeLine(const std::string& line) {
   const auto time = asked.number("time");
   const auto session = asked.number("session");
   if (!time || !session) return std::nullopt;
-  const auto text = eventText(padded, asked, answer);
+  const auto text = eventText(asked, answer);
   if (!text) return std::nullopt;
   char start[64];
   std::snprintf(start, sizeof start, "%llu.%03llu s  session %llu  ",

@@ -60,6 +60,12 @@ struct Signalling {
   bool portEnabled = false;
   Milliseconds since = 0;
   sigPortCfg_s cfg;
+
+  // One that is enabled already goes on as it is.
+  void enablePort(bool enabled, Milliseconds now) {
+    if (enabled && !portEnabled) since = now;
+    portEnabled = enabled;
+  }
 };
 
 struct Services {

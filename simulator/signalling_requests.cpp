@@ -18,15 +18,10 @@ Answer update(Request& request) {
 }
 
 Answer enablePort(Request& request) {
-  constexpr std::uint8_t enabled = 1;
-  constexpr std::uint8_t disabled = 2;
   const auto setting = request.input<sig_port_req>(sigHeadBytes);
   if (setting.port != request.head.Link) return Answer::badValue;
-  if (setting.state != enabled && setting.state != disabled) return Answer::badValue;
-  Signalling& signalling = request.board().services.signalling;
-  const bool wanted = setting.state == enabled;
-  if (wanted && !signalling.portEnabled) signalling.since = request.now;
-  signalling.portEnabled = wanted;
+  if (setting.state != sigPortEnabled && setting.state != sigPortDisabled) return Answer::badValue;
+  request.board().services.signalling.enablePort(setting.state == sigPortEnabled, request.now);
   return Answer::done;
 }
 

@@ -3,19 +3,14 @@
 #include <algorithm>
 #include <cstring>
 
+#include "simulator/record_text.h"
+
 namespace lisim {
 
 namespace {
 
-std::string hex(std::span<const std::uint8_t> bytes) {
-  constexpr char digits[] = "0123456789abcdef";
-  if (bytes.empty()) return "-";
-  std::string text;
-  for (const std::uint8_t byte : bytes) {
-    text += digits[byte >> 4];
-    text += digits[byte & 15];
-  }
-  return text;
+std::string hex(ByteView bytes) {
+  return bytes.empty() ? "-" : hexText(bytes);
 }
 
 std::string field(const char* name, std::uint64_t value) {

@@ -76,20 +76,13 @@ AtmIP1577 someIp() {
   return ip;
 }
 
-template <class Payload, class Record>
-Payload made(const Record& record) {
-  Payload payload;
-  payload = record;
-  return payload;
-}
-
 lecs_req someConfigServer() {
   AtmLECS lecs;
   lecs.ElanType = 2;
   lecs.EtherMfs = 1;
   lecs.TRMfs = 3;
   lecs.address = countingAddress();
-  return made<lecs_req>(lecs);
+  return payloadOf<lecs_req>(lecs);
 }
 
 const AtmBridgedPvc bridged{{{2, 3, 4, 5, 6, 7}}, 0x1234, 1, 1, 9};
@@ -141,7 +134,7 @@ TEST_F(ControlTest, FramesAreExactToTheByte) {
   };
   const Case cases[] = {
       {"LEC enable",
-       [](int s) { return lecRequest(s, 5, 7).enable(made<lecReqStruct>(someClient())); },
+       [](int s) { return lecRequest(s, 5, 7).enable(payloadOf<lecReqStruct>(someClient())); },
        head(primLecControl, 1, 7, 92), lecStart.bytes, "LEC_INIT\n"},
       {"LEC disable",
        [](int s) { return lecRequest(s, 5, 7).disable(); },
@@ -154,12 +147,12 @@ TEST_F(ControlTest, FramesAreExactToTheByte) {
        {},
        "-> "},
       {"bridged PVC",
-       [](int s) { return lecRequest(s, 5, 7).addPvc(made<bdgPvcReqStruct>(bridged)); },
+       [](int s) { return lecRequest(s, 5, 7).addPvc(payloadOf<bdgPvcReqStruct>(bridged)); },
        head(primLecControl, 3, 7, 76), bridge.bytes, "BRDG_PVCADD\n"},
       {"enhanced VC", [](int s) { return lecRequest(s, 5, 7).setEnhancedVC(1); },
        head(primLecControl, 7, 7, 20), Expected(4).number(0, 1).bytes, "set_ENHANCED: 1\n"},
       {"LES enable",
-       [](int s) { return lesRequest(s, 5, 15).enable(made<lesReqStruct>(someServer())); },
+       [](int s) { return lesRequest(s, 5, 15).enable(payloadOf<lesReqStruct>(someServer())); },
        head(primLesControl, 1, 15, 68), lesStart.bytes, "LES_ENABLE\n"},
       {"LES disable",
        [](int s) { return lesRequest(s, 5, 15).disable(); },
@@ -184,7 +177,7 @@ TEST_F(ControlTest, FramesAreExactToTheByte) {
        [](int s) { return lecsRequest(s, 5, 0).delClient(someConfigServer(), 5, 200); },
        head(primLecsControl, 4, 200, 60), server.bytes, "LECS_DEL_ADDR\n  1  2"},
       {"IP enable",
-       [](int s) { return ip1577Request(s, 5, 0).enable(made<ip1577ReqStruct>(someIp())); },
+       [](int s) { return ip1577Request(s, 5, 0).enable(payloadOf<ip1577ReqStruct>(someIp())); },
        head(primIpControl, 1, 0, 56), ipStart.bytes, "IPATM_INIT\n"},
       {"IP disable",
        [](int s) { return ip1577Request(s, 5, 0).disable(); },
@@ -192,7 +185,7 @@ TEST_F(ControlTest, FramesAreExactToTheByte) {
        {},
        "IPATM_DISABLE\n"},
       {"routed PVC",
-       [](int s) { return ip1577Request(s, 5, 0).addPvc(made<rtdPvcReqStruct>(routed)); },
+       [](int s) { return ip1577Request(s, 5, 0).addPvc(payloadOf<rtdPvcReqStruct>(routed)); },
        head(primIpControl, 4, 0, 72), route.bytes, "IPATM_PVCADD\n  a 14 1e 28 34 12  1"},
       {"port", [](int s) { return sigRequest(s, 5, 0).PortEnableDisable(2); },
        head(primSigControl, 5, 0, 27),
@@ -291,8 +284,8 @@ TEST_F(ControlTest, TheConfigurationServerIsStoppedSetUpAndSetGoing) {
 TEST_F(ControlTest, AnObjectServesRequestsOfAllSizes) {
   serve();
   lecRequest lec(session_, 5, 7);
-  lec.enable(made<lecReqStruct>(someClient()));
-  lec.addPvc(made<bdgPvcReqStruct>(AtmBridgedPvc{}));
+  lec.enable(payloadOf<lecReqStruct>(someClient()));
+  lec.addPvc(payloadOf<bdgPvcReqStruct>(AtmBridgedPvc{}));
   EXPECT_EQ(frames().at(1).payload, Payload(60));
   lec.setEnhancedVC(0);
   EXPECT_EQ(frames().at(2).payload, Payload(4));

@@ -1,16 +1,4 @@
-// The control requests of the LAN Emulation and IP services.
-#include <ostream>
-
-#include "driver/ip1577_request.h"
-#include "driver/lec_request.h"
 #include "driver/lecs_request.h"
-#include "foundation/odlog.h"
-
-int lecRequest::setEnhancedVC(unsigned int enhanced) {
-  prepare(Control::LecSetEnhanced, word_req{enhanced});
-  odlog << formOf(Control::LecSetEnhanced).logLine << enhanced << std::endl;
-  return daiRequest();
-}
 
 int lecsRequest::enable(const lecs_req& record) {
   disable();
@@ -41,18 +29,4 @@ int lecsRequest::addClient(const lecs_req& client, unsigned char link, unsigned 
 int lecsRequest::delClient(const lecs_req& client, unsigned char link, unsigned char unit) {
   setTarget(link, unit);
   return delClient(client);
-}
-
-int lecsRequest::sendClient(Control control, const lecs_req& client) {
-  prepare(control, client);
-  logLine(control);
-  odlog << client << std::endl;
-  return daiRequest();
-}
-
-int ip1577Request::addPvc(const rtdPvcReqStruct& record) {
-  prepare(Control::IpAddPvc, record);
-  logLine(Control::IpAddPvc);
-  odlog << record << std::endl;
-  return daiRequest();
 }
