@@ -218,6 +218,10 @@ void zDialogFrame::ziShowTimeout(XtPointer link, XtIntervalId*) {
   dialog->showTimeout();
 }
 
+void zDialogFrame::showIfPending() {
+  if (pendingShow_) showTimeout();
+}
+
 void zDialogFrame::cancelPendingShow() {
   if (pendingShow_) XtRemoveTimeOut(pendingShow_);
   pendingShow_ = 0;

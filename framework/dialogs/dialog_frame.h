@@ -35,6 +35,8 @@ class zDialogFrame : public zFrameWin {
   // Brings the dialog up after 300 ms; with 0 makes it ready without showing it.
   int show(int visible) override;
   void showTimeout();
+  // Does at once what show(1) has been asked for and still waits.
+  void showIfPending();
   // Shows the dialog at once and runs a loop of its own until it is finished.
   void modal(int style = zModalApplication);
   // Ends the dialog unless a handler of the close event or `kill` refuses. Closing the root window

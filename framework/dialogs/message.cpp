@@ -9,6 +9,7 @@
 #include "framework/core/event_loop.h"
 #include "framework/core/frame_window.h"
 #include "framework/core/x_text.h"
+#include "framework/dialogs/dialog_frame.h"
 
 namespace {
 
@@ -91,6 +92,12 @@ void useFont(Widget box, XmFontList fonts) {
   for (const Slot& slot : slots) ziSetFontList(XmMessageBoxGetChild(box, slot.child), fonts);
 }
 
+// A window that came up later would cover the box, which nobody could answer then.
+void bringUpFirst(zWindow* window) {
+  auto* dialog = dynamic_cast<zDialogFrame*>(window ? window->frame() : nullptr);
+  if (dialog) dialog->showIfPending();
+}
+
 // A box on the screen, and the window that it stands over, which may go before it.
 struct OpenBox {
   OpenBox(zMessage* message, zWindow* over);
@@ -119,6 +126,7 @@ zMessage::zMessage(zWindow* parent, const char* text, const char* title, unsigne
   const Widget shell = shellOf(parent);
   if (!shell) return;
   const OpenBox open(this, parent);
+  bringUpFirst(parent);
   const Widget box = createBox(shell, text, title, style);
   labelButtons(box, style);
   if (parent && parent->getFont()) useFont(box, parent->getFont()->fontList());

@@ -615,6 +615,19 @@ TEST(Message, EndsWithTheWindowItStandsOver) {
   EXPECT_EQ(zMessage(closed.edit, "text", "caption", 0x24).result(), 7);
 }
 
+// Whose show was still to come would have covered the box.
+TEST(Message, StaysInFrontOfAWindowThatHasJustBeenMade) {
+  TestForm form;
+  form.show(1);
+  std::unique_ptr<AnswersBox> answers;
+  Later behindTheShow(2 * zDialogFrame::showDelayMs, [&] {
+    EXPECT_TRUE(form.isShown());
+    answers = std::make_unique<AnswersBox>([] { x_driver::key(XK_Return); });
+  });
+  Later givesUp(x_driver::patienceMs, [&] { form.shutdown(); });
+  EXPECT_EQ(zMessage(&form, "text", "caption", 0x24).result(), 6) << "answered, not given up";
+}
+
 TEST(Message, BlocksOnlyTheHandlerThatRaisedIt) {
   TestForm form;
   int answer = 0;
