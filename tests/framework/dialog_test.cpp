@@ -149,7 +149,7 @@ TEST(FontSets, ControlsStandWhereTheArithmeticPutsThem) {
     if (r.id == unknownClassId || !r.w) continue;
     const zDimension place = measure(r.x, r.y);
     EXPECT_EQ((*kid)->ctrlId(), static_cast<int>(r.id));
-    EXPECT_EQ((*kid)->sizer()->rect(), zRect(zPoint(place.width, place.height), measure(r.w, r.h)));
+    EXPECT_EQ((*kid)->sizer()->rect(), zRect(zPoint{place.width, place.height}, measure(r.w, r.h)));
     ++kid;
   }
   EXPECT_EQ(kid, form.kidslist().end());
