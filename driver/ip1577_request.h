@@ -14,5 +14,7 @@ class ip1577Request : public ControlRequest {
   // Starts the service, anew if it runs.
   int enable(const ip1577ReqStruct& record) { return start(Control::IpEnable, record); }
   int disable() { return stop(Control::IpDisable); }
-  int addPvc(const rtdPvcReqStruct& record) { return sendDumped(Control::IpAddPvc, record); }
+  int addPvc(const rtdPvcReqStruct& record) { return send(Control::IpAddPvc, record); }
+  int addPvcDumped(const rtdPvcReqStruct& record) { return sendDumped(Control::IpAddPvc, record); }
+  int deletePvc(const rtdPvcReqStruct& record) { return send(Control::IpDeletePvc, record); }
 };

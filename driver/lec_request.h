@@ -15,5 +15,6 @@ class lecRequest : public ControlRequest {
   int enable(const lecReqStruct& record) { return start(Control::LecEnable, record); }
   int disable() { return stop(Control::LecDisable); }
   int addPvc(const bdgPvcReqStruct& record) { return send(Control::LecAddPvc, record); }
+  int deletePvc(const bdgPvcReqStruct& record) { return send(Control::LecDeletePvc, record); }
   int setEnhancedVC(unsigned int enhanced) { return sendWord(Control::LecSetEnhanced, enhanced); }
 };

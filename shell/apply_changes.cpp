@@ -124,7 +124,7 @@ void addMappedClients(lecsRequest& request, lecs_req& record, short adapter) {
 void startIp1577(ip1577Request& request, const AtmIP1577& ip) {
   request.enable(payloadOf<ip1577ReqStruct>(ip));
   for (const AtmRoutedPvc& pvc : ip.pvcs) {
-    if (request.addPvc(payloadOf<rtdPvcReqStruct>(pvc)) != 0)
+    if (request.addPvcDumped(payloadOf<rtdPvcReqStruct>(pvc)) != 0)
       logFailure("IP1577:Add PVC - DAI returned error(", request);
   }
 }

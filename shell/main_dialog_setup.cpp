@@ -10,14 +10,13 @@
 #include "foundation/bounded_stream.h"
 #include "foundation/odlog.h"
 #include "framework/drawing/bitmap.h"
+#include "setup/config_dialog.h"
 #include "shell/adapter_table.h"
 #include "shell/apply_changes.h"
 #include "shell/main_dialog.h"
-#include "shell/unavailable_dialog.h"
 
 namespace {
 
-constexpr int setupTitle = 537;
 constexpr char changeCaption[] = "Configuration Change";
 
 // One element or an array of as many.
@@ -70,10 +69,10 @@ int DMainDlg::clickedSetupBTN(zNotifyEvt*) {
   const auto adapter = static_cast<short>(currentAdapter);
   MapDataToXferBuffer(adapter);
   disableTimer();
-  DUnavailableDlg dialog(this, setupTitle);
+  DConfigDlg dialog(this);
   dialog.modal();
   setCursor(zCursor(zCursor::watch));
-  if (dialog.completed()) {
+  if (dialog.result()) {
     keepSetup(adapter);
   } else {
     keepSetupLists(adapter);

@@ -138,8 +138,10 @@ int zEditBase::checkData() {
   return (bindingStyle_ & mayStayEmpty) || !getText().empty();
 }
 
+// A text that can't be shown as it is stays what it was until another one is entered.
 int zEditBase::storeData() {
-  if (store_) *store_ = getText();
+  const std::string text = getText();
+  if (store_ && ziSafeText(*store_) != text) *store_ = text;
   return 1;
 }
 

@@ -14,6 +14,7 @@ class zGroupBox : public zButton {
   void ziBackgroundColor(const zColor& color) override;
 
  protected:
+  Layer layer() const override { return Layer::frame; }
   void doText(const char* value) override;
 
  private:

@@ -101,6 +101,9 @@ class zTabCtrl : public zPaneControl {
   int focus(zFocusEvt* event) override;
   int mouseButtonDown(zMouseClickEvt* event) override;
 
+ protected:
+  Layer layer() const override { return Layer::tabs; }
+
  private:
   int keyDown(zKeyEvt* event);
   void arrange();

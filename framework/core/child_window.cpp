@@ -8,18 +8,26 @@ namespace {
 
 constexpr int sizeWhenNotSet = 10;
 
-// A container's window goes above its siblings when it is mapped, that of a frame drawn around
-// controls below them.
-void stackOnMap(Widget widget, XtPointer link, XEvent* event, Boolean*) {
+}  // namespace
+
+// A container's window goes above its siblings when it is mapped. What is drawn around others goes
+// below them, and what is drawn around that stays lowest.
+void zChildWin::stackOnMap(Widget widget, XtPointer link, XEvent* event, Boolean*) {
   if (event->type != MapNotify) return;
-  if (static_cast<ziControlCB*>(link)->window->isA(zTypeGroupBox)) {
-    XLowerWindow(XtDisplay(widget), XtWindow(widget));
-  } else {
+  const auto* mapped = static_cast<zChildWin*>(static_cast<ziControlCB*>(link)->window);
+  if (mapped->layer() == Layer::control) {
     XRaiseWindow(XtDisplay(widget), XtWindow(widget));
+    return;
+  }
+  XLowerWindow(XtDisplay(widget), XtWindow(widget));
+  for (const zWindow* kid : mapped->parent()->kidslist()) {
+    if (!kid->isA(zTypeChildWin)) continue;
+    const auto* sibling = static_cast<const zChildWin*>(kid);
+    const Widget container = sibling->container_;
+    if (sibling->layer() > mapped->layer() && container && XtIsRealized(container))
+      XLowerWindow(XtDisplay(container), XtWindow(container));
   }
 }
-
-}  // namespace
 
 zChildWin::zChildWin(zWindow* parent, zSizer* sizer, unsigned long style, const char* title, int id)
     : zWindow(parent, sizer, style | zStyleChild) {

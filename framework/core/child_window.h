@@ -49,6 +49,11 @@ class zChildWin : public zWindow {
   }
 
  protected:
+  // What a control lies below: nothing, the controls that it is a frame around, or those frames
+  // too.
+  enum class Layer { control, frame, tabs };
+  virtual Layer layer() const { return Layer::control; }
+
   // What is left of the generic child whose place this one took; gone after bury(). Null when there
   // was none. The class that knows the last of its state takes that over and calls bury().
   zChildWin* husk() const { return husk_.get(); }
@@ -61,6 +66,8 @@ class zChildWin : public zWindow {
   Widget getContainer() const { return container_; }
 
  private:
+  static void stackOnMap(Widget widget, XtPointer link, XEvent* event, Boolean*);
+
   std::unique_ptr<zChildWin> husk_;
   Widget container_ = nullptr;
 };

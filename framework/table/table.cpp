@@ -86,6 +86,7 @@ int zTable::resetProc() {
   rows_.setCount(model() ? model()->getNumRows() : 0);
   arrange();
   setDirty(nullptr, 0);
+  if (!active_.isCell()) return 0;
   const zTableLoc kept(std::clamp(active_.x, 1UL, std::max(cols_.count(), 1UL)),
                        std::clamp(active_.y, 1UL, std::max(rows_.count(), 1UL)));
   if (kept != active_) changeActive(kept);
@@ -187,7 +188,7 @@ bool zTable::isInTable(const zTableLoc& cell) const {
 }
 
 void zTable::setActiveCell(const zTableLoc& cell) {
-  if (isInTable(cell)) changeActive(cell);
+  if (cell == zTableLoc() || isInTable(cell)) changeActive(cell);
 }
 
 void zTable::changeActive(const zTableLoc& cell) {
@@ -212,7 +213,8 @@ void zTable::changeCurSelLoc(int across, int down) {
 // A move by the keyboard or by the program: at the border there is none.
 void zTable::moveTo(const zTableLoc& cell) {
   clearSelectedLabels();
-  if (cell != active_) changeActive(cell);
+  const zTableLoc to(std::max(cell.x, 1UL), std::max(cell.y, 1UL));  // from no cell, the first
+  if (to != active_) changeActive(to);
 }
 
 void zTable::setSelection(const zTableRegion& region) {

@@ -71,7 +71,8 @@ class zTable : public zPane {
   // How near to a label's border a press takes hold of it; 0 for not at all.
   void setResizeSpace(int pixels) { resizeSpace_ = pixels; }
 
-  // The active cell. A cell outside the table is refused, but for the first row of an empty table.
+  // The active cell; with (0, 0) none is, and the first cell gets the keyboard's first step. A cell
+  // outside the table is refused, but for the first row of an empty table.
   // Setting it scrolls it into view and notifies, even when it was active before. A column one
   // pixel wide is hidden and never scrolled to.
   void setActiveCell(const zTableLoc& cell);

@@ -122,6 +122,7 @@ void zTable::scrolledCB(Widget bar, XtPointer link, XtPointer callData) {
 }
 
 void zTable::scrollIntoView(const zTableLoc& cell) {
+  if (!cell.isCell()) return;
   const zRect cells = cellsArea();
   zPoint to = scroll_;
   if (cols_.size(cell.x) > hiddenWidth) {
