@@ -66,6 +66,8 @@ DConfigDlgLECPG::DConfigDlgLECPG(zNotebookDialog* notebook, zPageDef* def)
   createControls();
   createRate();
   createPvcTable();
+  showFields();
+  throughGroup_->setToDefault();
   connect();
   tabs_->select(1);
   setSensitive({173}, false);

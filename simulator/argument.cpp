@@ -155,6 +155,7 @@ std::span<const ArgumentKind> argumentKinds() {
       {"active", readActive, "a board number from 1, or none"},
       {"mac", readMac, "a MAC address such as 02:4C:49:00:01:00"},
       {"slots", readRange<0, boardSlots>, "a number from 0 to 8"},
+      {"server", readRange<0, unitSlots - 1>, "a server's number from 0 to 15"},
       {"rows", readRange<0, maxVcRows>, "a number of rows from 0 to 65534"},
       {"byte", readRange<0, 255>, "a number from 0 to 255"},
       {"short", readRange<0, 65535>, "a number from 0 to 65535"},

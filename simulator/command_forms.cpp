@@ -130,6 +130,20 @@ Reply setSignalling(Simulator& simulator, const Values& values, Milliseconds now
   return {};
 }
 
+// A client that the configuration server has learnt of by itself.
+Reply addMapping(Simulator& simulator, const Values& values, Milliseconds) {
+  constexpr std::uint8_t learnt = 2;
+  ConfigServer& server = boardOf(simulator, values).services.configServer;
+  if (!server.enabled) return outcome(Answer::notRunning);
+  lecs_tbl row{{}, static_cast<std::uint8_t>(values[1].number), learnt};
+  auto bits = static_cast<std::uint64_t>(values[2].number) << 8 |
+              static_cast<std::uint64_t>(values[3].number);
+  for (std::size_t i = std::size(row.esiSelector); i-- > 0; bits >>= 8)
+    row.esiSelector[i] = static_cast<std::uint8_t>(bits);
+  server.clients.push_back(row);
+  return {};
+}
+
 Reply setRevision(Simulator& simulator, const Values& values, Milliseconds) {
   simulator.adapters.revision = values[0].text;
   return {};
@@ -259,6 +273,7 @@ constexpr CommandForm forms[] = {
     {"board {board} state auto", freeStatus},
     {"board {board} state {short} {active}", forceStatus},
     {"board {board} signalling {up/down}", setSignalling},
+    {"board {board} mapping {server} {mac} {byte}", addMapping},
     {"board {board} backup", makeBackup},
     {"pair {board} {board}", pair<false>},
     {"pair {board} {board} manual", pair<false>},

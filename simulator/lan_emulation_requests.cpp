@@ -152,22 +152,27 @@ Answer startConfigServer(Request& request) {
 constexpr std::size_t mostMappings = 65534;  // what a 16-bit row number reaches
 
 auto findClient(ConfigServer& server, const lecs_req& client) {
-  return std::ranges::find_if(server.clients, [&](const lecs_req& known) {
+  return std::ranges::find_if(server.clients, [&](const lecs_tbl& known) {
     return std::ranges::equal(known.esiSelector, client.esiSelector);
   });
 }
 
+// Which server the client goes to is not in the request.
 Answer addMapping(Request& request) {
+  constexpr std::uint8_t configured = 1;
   ConfigServer& server = configServerOf(request);
   if (!server.enabled) return Answer::notRunning;
   const auto client = request.input<lecs_req>();
+  lecs_tbl row{};
+  std::memcpy(row.esiSelector, client.esiSelector, sizeof row.esiSelector);
+  row.kind = configured;
   const auto known = findClient(server, client);
   if (known != server.clients.end()) {
-    *known = client;
+    *known = row;
     return Answer::done;
   }
   if (server.clients.size() >= mostMappings) return Answer::tableFull;
-  server.clients.push_back(client);
+  server.clients.push_back(row);
   return Answer::done;
 }
 
@@ -195,14 +200,8 @@ Answer mappingCount(Request& request) {
 }
 
 Answer mappingRows(Request& request) {
-  constexpr std::uint8_t configured = 1;
   const auto& clients = configServerOf(request).clients;
-  return deliverRows(request, clients.size(), [&](std::size_t i) {
-    lecs_tbl row{};
-    std::memcpy(row.esiSelector, clients[i].esiSelector, sizeof row.esiSelector);
-    row.kind = configured;
-    return row;
-  });
+  return deliverRows(request, clients.size(), [&](std::size_t i) { return clients[i]; });
 }
 
 constexpr auto board = Target::board;

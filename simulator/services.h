@@ -46,7 +46,7 @@ struct ConfigServer {
   bool enabled = false;
   bool going = false;
   lecs_req record;
-  std::vector<lecs_req> clients;  // mappings, in the order in which they came
+  std::vector<lecs_tbl> clients;  // mappings, in the order in which they came
 };
 
 struct IpService {

@@ -57,17 +57,17 @@ class LogText {
   std::ostringstream text_;
 };
 
-// Presses Return in every message box that comes up, and keeps what they said.
+// Presses a key in every message box that comes up, and keeps what they said.
 class BoxReader {
  public:
-  BoxReader() { wait(); }
+  explicit BoxReader(KeySym answer = XK_Return) : answer_(answer) { wait(); }
   const Lines& boxes() const { return boxes_; }  // "caption: text"
 
  private:
   void wait() {
     answers_ = std::make_unique<AnswersBox>([this] {
       boxes_.push_back(read());
-      x_driver::key(XK_Return);
+      x_driver::key(answer_);
       next_ = std::make_unique<Later>(1, [this] { wait(); });
     });
   }
@@ -101,6 +101,7 @@ class BoxReader {
     return read;
   }
 
+  KeySym answer_;
   Lines boxes_;
   std::unique_ptr<AnswersBox> answers_;
   std::unique_ptr<Later> next_;
