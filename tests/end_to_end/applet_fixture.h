@@ -8,6 +8,7 @@
 #include "tests/support/applet_process.h"
 
 constexpr char mainTitle[] = "Ondrelle v2.20";
+constexpr char setupTitle[] = "Setup Adapter 0 - 02:4c:49:10:00:00";  // of the demo's first board
 
 constexpr unsigned long green = 0x00ff00;
 constexpr unsigned long yellow = 0xffff00;

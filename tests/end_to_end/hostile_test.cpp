@@ -44,10 +44,10 @@ TEST(Hostile, SetupWithoutADriverSaysSoFirst) {
   const MainWindow main(person);
   main.click(setupButton);
   ASSERT_NE(person.await("Driver Error"), None);
-  EXPECT_TRUE(person.windows("Setup").empty());
+  EXPECT_TRUE(person.windows("Setup Adapter 0 - -").empty());
   EXPECT_EQ(run.errors().find("Stopping main timer."), std::string::npos);
   person.key(XK_Return);
-  EXPECT_NE(person.await("Setup"), None);
+  EXPECT_NE(person.await("Setup Adapter 0 - -"), None);
   EXPECT_TRUE(run.logged("Stopping main timer."));
 }
 
