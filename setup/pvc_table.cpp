@@ -6,6 +6,13 @@
 #include "foundation/bounded_stream.h"
 #include "framework/resources/resources.h"
 
+namespace {
+
+constexpr unsigned long circuitColumn = 2;
+constexpr char widestCircuit[] = "255 / 9999";
+
+}  // namespace
+
 PvcTable::PvcTable(zWindow* parent, int id, zTableModel* tableModel, int labelBlock)
     : myTable(parent, id, tableModel) {
   setLabelType(zTLabelColumns, zTLabelText);
@@ -16,8 +23,10 @@ PvcTable::PvcTable(zWindow* parent, int id, zTableModel* tableModel, int labelBl
 }
 
 unsigned PvcTable::columnFor(unsigned long column, const char* sample, int padding) const {
-  const int label = labelFont().textWidth(getLabelText(zTLabelColumns, column));
-  return static_cast<unsigned>(std::max(getFont()->textWidth(sample), label) + padding);
+  int width = std::max(getFont()->textWidth(sample),
+                       labelFont().textWidth(getLabelText(zTLabelColumns, column)));
+  if (column == circuitColumn) width = std::max(width, getFont()->textWidth(widestCircuit));
+  return static_cast<unsigned>(width + padding);
 }
 
 void PvcTable::writeCells(unsigned long row, const char* address, std::uint16_t vci, bool isLlc) {
@@ -25,6 +34,6 @@ void PvcTable::writeCells(unsigned long row, const char* address, std::uint16_t 
   BoundedStream text(circuit, sizeof circuit);
   text << BoardVPI << " / " << vci;
   SetCellText({1, row}, address);
-  SetCellText({2, row}, text.terminate());
+  SetCellText({circuitColumn, row}, text.terminate());
   SetCellText({3, row}, isLlc ? "LLC_SNAP" : "NULL");
 }

@@ -27,7 +27,8 @@ class PvcTable : public myTable {
   void writeCommon(unsigned long row, const char* address, const Pvc& pvc) {
     writeCells(row, address, pvc.vci, pvc.Encap == 1);
   }
-  // The room that a text takes in the table's font, and as a column's label, with `padding`.
+  // The room that a column needs for a sample, for its label and for the widest circuit that it can
+  // be asked to show, with `padding`.
   unsigned columnFor(unsigned long column, const char* sample, int padding) const;
 
  private:
