@@ -223,7 +223,7 @@ void zComboBoxBase::showText(const std::string& shown) {
   if (XmGetFocusWidget(text) == text && end > 0) {
     XmTextSetSelection(text, 0, end, XtLastTimestampProcessed(app->display()));
   }
-  XmTextSetInsertionPosition(text, end);
+  if (XmTextGetInsertionPosition(text) != end) XmTextSetInsertionPosition(text, end);
   semaphores_ &= ~static_cast<unsigned>(settingText);
 }
 
