@@ -141,8 +141,9 @@ void zComboBoxBase::vmove(int x, int y, int width, int height) {
 }
 
 void zComboBoxBase::setFont(std::shared_ptr<zFont> font, int redraw) {
+  const bool looksNew = ziLooksNew(font);
   ziItemControl::setFont(font, redraw);
-  if (textWidget() && font) ziSetFontList(textWidget(), font->fontList());
+  if (textWidget() && looksNew) ziSetFontList(textWidget(), font->fontList());
 }
 
 void zComboBoxBase::ziBackgroundColor(const zColor& color) {
