@@ -10,7 +10,6 @@
 #include <Xm/List.h>
 #include <Xm/ScrollBar.h>
 #include <benchmark/benchmark.h>
-#include <dlfcn.h>
 
 #include <algorithm>
 #include <chrono>
@@ -19,6 +18,7 @@
 #include <vector>
 
 #include "applet/my_table.h"
+#include "bench/asked_of_server.h"
 #include "framework/core/app.h"
 #include "framework/core/x_text.h"
 #include "framework/dialogs/control_types.h"
@@ -38,19 +38,7 @@ constexpr zPoint besideTheDialog{640, 100};
 constexpr zPoint belowTheDialog{640, 600};
 constexpr int generations = 2;
 
-// How often a reply has been waited for.
-unsigned long waits = 0;
-
 double cellsPainted = 0;
-
-// Until the server has drawn what was asked for, and what its exposures made the program draw.
-// Makes two requests, and waits for both.
-constexpr unsigned long requestsOfSettling = 2;
-void settle() {
-  XSync(app->display(), False);
-  x_driver::handlePending();
-  XSync(app->display(), False);
-}
 
 // The texts that the cells change between.
 const std::string& text(int generation, unsigned long column, unsigned long row) {
@@ -257,7 +245,7 @@ Stage* stage = nullptr;
 using Step = std::function<void(int generation)>;
 void measure(benchmark::State& state, const Step& prepare, const Step& act) {
   using Clock = std::chrono::steady_clock;
-  unsigned long requests = 0, waited = 0;
+  AskedOfServer asked;
   double cells = 0;
   int generation = 0;
   stage->table.scrollToStart();
@@ -266,21 +254,16 @@ void measure(benchmark::State& state, const Step& prepare, const Step& act) {
     prepare(generation);
     x_driver::settle();
     cellsPainted = 0;
-    const unsigned long waitsBefore = waits, next = NextRequest(app->display());
+    const AskedOfServer before = askedOfServer();
     const Clock::time_point start = Clock::now();
     act(generation);
     settle();
     state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
-    requests += NextRequest(app->display()) - next - requestsOfSettling;
-    waited += waits - waitsBefore - requestsOfSettling;
+    asked += askedOfServer() - before - askedBySettling;
     cells += cellsPainted;
   }
-  const auto average = [](auto sum) {
-    return benchmark::Counter(static_cast<double>(sum), benchmark::Counter::kAvgIterations);
-  };
-  state.counters["requests"] = average(requests);
-  state.counters["waits"] = average(waited);
-  state.counters["cells"] = average(cells);
+  countPerIteration(state, asked);
+  state.counters["cells"] = benchmark::Counter(cells, benchmark::Counter::kAvgIterations);
 }
 
 void nothing(int) {}
@@ -342,22 +325,12 @@ TABLE_BENCHMARK(scrollByAPage);
 
 }  // namespace
 
-// Every call of Xlib that waits for a reply gets it by this one, which stands before the library's.
-extern "C" int _XReply(Display* display, void* reply, int extra, int discard) {  // NOLINT
-  using Reply = int (*)(Display*, void*, int, int);
-  static const auto inLibrary = reinterpret_cast<Reply>(dlsym(RTLD_NEXT, "_XReply"));
-  ++waits;
-  return inLibrary(display, reply, extra, discard);
-}
-
 // The table's dialog stands over app->rootWindow().
 void zApp::zAppEntry() {
   initIntPack();
   zDialogFrame root(nullptr, new zSizer(10, 600, 120, 40, nullptr), dialogStyle, "Bench", 0);
   if (!x_driver::show(root)) std::abort();
-  waits = 0;
-  settle();
-  if (waits != requestsOfSettling) std::abort();  // or the counts would mean nothing
+  checkCounting();
   Stage everything;
   stage = &everything;
   benchmark::RunSpecifiedBenchmarks();

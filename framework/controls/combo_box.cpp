@@ -141,8 +141,9 @@ void zComboBoxBase::vmove(int x, int y, int width, int height) {
 }
 
 void zComboBoxBase::setFont(std::shared_ptr<zFont> font, int redraw) {
+  const bool looksNew = ziLooksNew(font);
   ziItemControl::setFont(font, redraw);
-  if (textWidget() && font) ziSetFontList(textWidget(), font->fontList());
+  if (textWidget() && looksNew) ziSetFontList(textWidget(), font->fontList());
 }
 
 void zComboBoxBase::ziBackgroundColor(const zColor& color) {
@@ -223,7 +224,7 @@ void zComboBoxBase::showText(const std::string& shown) {
   if (XmGetFocusWidget(text) == text && end > 0) {
     XmTextSetSelection(text, 0, end, XtLastTimestampProcessed(app->display()));
   }
-  XmTextSetInsertionPosition(text, end);
+  if (XmTextGetInsertionPosition(text) != end) XmTextSetInsertionPosition(text, end);
   semaphores_ &= ~static_cast<unsigned>(settingText);
 }
 

@@ -154,7 +154,7 @@ void zEditBase::doText(const char* value) {
 }
 
 // A handler may set a text while a change is offered: that change is void then.
-void zEditBase::setText(const std::string& value, Semaphore why) {
+void zEditBase::setText(const std::string& value, Semaphore why, std::optional<int> caret) {
   verify_ = nullptr;
   undo_.empty();
   const Widget text = textWidget();
@@ -162,17 +162,24 @@ void zEditBase::setText(const std::string& value, Semaphore why) {
   const Hold hold(*this, why);
   if (XtIsManaged(text)) {
     ziSetText(text, value);
-    XmTextSetInsertionPosition(text, XmTextGetLastPosition(text));
+    placeCaret(caret.value_or(static_cast<int>(XmTextGetLastPosition(text))));
   } else {
     XtVaSetValues(text, XmNvalue, ziSafeText(value).c_str(), nullptr);
   }
+}
+
+// A field of one line always shows its caret; in a box it may have been scrolled out of sight.
+void zEditBase::placeCaret(int position) const {
+  const bool multiLine = (styleValue() & zEditStyle::multiLine) != 0;
+  if (!multiLine && XmTextGetInsertionPosition(textWidget()) == position) return;
+  XmTextSetInsertionPosition(textWidget(), position);
 }
 
 void zEditBase::showEdited(const std::string& text, const zRange& selected) {
   if (verify_ && !(semaphores_ & announcing)) {
     edited_ = {text, selected};
   } else {
-    setText(text, formatting);
+    setText(text, formatting, selected.end);
     selection(selected.start, selected.end);
   }
 }
@@ -237,7 +244,7 @@ void zEditBase::selection(int start, int end) {
       XmTextClearSelection(text, time);
     }
   }
-  XmTextSetInsertionPosition(text, end);
+  placeCaret(end);
 }
 
 std::string zEditBase::getSelection() const {

@@ -166,7 +166,9 @@ class zEditBase : public zControl {
   Widget createLine(Widget board, std::vector<Arg> args);
   Widget createBox(Widget board, std::vector<Arg> args);
   void showCaret(bool enabled) const;
-  void setText(const std::string& value, Semaphore why);
+  // The caret goes behind the text unless it has another place.
+  void setText(const std::string& value, Semaphore why, std::optional<int> caret = {});
+  void placeCaret(int position) const;
 
   static void modifyCB(Widget widget, XtPointer link, XtPointer callData);
   static void changedCB(Widget widget, XtPointer link, XtPointer callData);

@@ -78,8 +78,9 @@ void ziItemControl::setListColors(const zColor& background) const {
 }
 
 void ziItemControl::setFont(std::shared_ptr<zFont> font, int redraw) {
+  const bool looksNew = ziLooksNew(font);
   zControl::setFont(font, redraw);
-  if (list_ && font) ziSetFontList(list_, font->fontList());
+  if (list_ && looksNew) ziSetFontList(list_, font->fontList());
 }
 
 // Items.

@@ -39,7 +39,8 @@ void zRadioController::toggle(int id, bool on) const {
 }
 
 void zRadioController::makeCurrent(int id) {
-  toggle(current_ ? current_ : firstId_, false);
+  const int before = current_ ? current_ : firstId_;
+  if (before != id) toggle(before, false);
   current_ = id;
   toggle(id, true);
 }

@@ -61,6 +61,11 @@ void zTab::setFocus() {
   owner_->setFocus();
 }
 
+// What the tab draws on, selected or not.
+zRect zTab::drawnArea() const {
+  return {place().left, place().top - lift, place().right, place().bottom + 1};
+}
+
 // Up the left side, along the top and down the right side; below the selected tab the frame is
 // open.
 void zTab::drawEdges(zDisplay& display, const zRect& edge) const {
@@ -266,8 +271,7 @@ void zTabCtrl::arrange() {
 }
 
 void zTabCtrl::redraw(const zTab* tab) {
-  const zRect& place = tab->place();
-  const zRect area(place.left, place.top - lift, place.right, place.bottom + 1);
+  const zRect area = tab->drawnArea();
   setDirty(&area, 0);
 }
 
@@ -275,7 +279,9 @@ void zTabCtrl::draw(zDrawEvt* event) {
   zPaneControl::draw(event);
   zDisplay& display = *event->display;
   if (const zRect frame = body(); !frame.isEmpty()) display.edge3d(frame, true);
-  for (const auto& tab : tabs_) tab->draw(display);
+  for (const auto& tab : tabs_) {
+    if (!tab->drawnArea().intersection(event->area).isEmpty()) tab->draw(display);
+  }
 }
 
 void zTabCtrl::vmove(int x, int y, int width, int height) {

@@ -28,6 +28,7 @@ class zTab : public ziVisual {
 
  private:
   friend class zTabCtrl;
+  zRect drawnArea() const;
   void drawEdges(zDisplay& display, const zRect& edge) const;
 
   zTabCtrl* owner_;

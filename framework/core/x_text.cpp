@@ -49,6 +49,12 @@ char ziParseForMnemonic(std::string_view title) {
 void ziSetLabel(Widget label, std::string_view title) {
   const ziXmString text(ziParseTitle(title));
   const KeySym mnemonic = static_cast<unsigned char>(ziParseForMnemonic(title));
+  XmString shown = nullptr;
+  KeySym shownMnemonic = NoSymbol;
+  XtVaGetValues(label, XmNlabelString, &shown, XmNmnemonic, &shownMnemonic, nullptr);
+  const bool same = XmStringCompare(shown, text.get()) && shownMnemonic == mnemonic;
+  XmStringFree(shown);
+  if (same) return;
   XtVaSetValues(label, XmNlabelString, text.get(), XmNmnemonic, mnemonic, nullptr);
 }
 
@@ -71,7 +77,12 @@ std::string ziSelectedText(Widget text) {
 }
 
 void ziSetText(Widget text, std::string_view value) {
-  XmTextSetString(text, ziSafeText(value).data());
+  std::string safe = ziSafeText(value);
+  if (ziTextOf(text) == safe) {
+    XmTextClearSelection(text, XtLastTimestampProcessed(XtDisplay(text)));
+  } else {
+    XmTextSetString(text, safe.data());
+  }
 }
 
 std::string ziInsertedText(const XmTextVerifyCallbackStruct& change) {

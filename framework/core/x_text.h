@@ -35,10 +35,12 @@ void ziSetFontList(Widget widget, XmFontList fonts);
 std::string ziParseTitle(std::string_view title);
 char ziParseForMnemonic(std::string_view title);
 
-// Gives a widget of the label family the text and the mnemonic of a title.
+// Gives a widget of the label family the text and the mnemonic of a title. What it shows already is
+// not drawn again.
 void ziSetLabel(Widget label, std::string_view title);
 
-// XmText's texts as owned strings, and its setters.
+// XmText's texts as owned strings, and its setter, which leaves nothing selected. It doesn't draw
+// again what is shown already, and the caret may be anywhere behind it.
 std::string ziTextOf(Widget text);
 std::string ziSelectedText(Widget text);
 void ziSetText(Widget text, std::string_view value);

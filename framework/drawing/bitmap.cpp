@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <map>
 
 #include "framework/core/app.h"
 #include "framework/drawing/color.h"
@@ -184,7 +185,13 @@ zIcon::~zIcon() {
   }
 }
 
-zCursor::zCursor(Stock shape) : cursor_(XCreateFontCursor(app->display(), shape)) {}
+// A theme's picture of a stock shape takes many requests, so each is made once in a run.
+zCursor::zCursor(Stock shape) : cursor_(None) {
+  static std::map<Stock, Cursor> made;
+  Cursor& cursor = made[shape];
+  if (cursor == None) cursor = XCreateFontCursor(app->display(), shape);
+  cursor_ = cursor;
+}
 
 zCursor::zCursor(const zResId& id) : cursor_(None) {
   const unsigned char* file = lock(id, zResCursor);

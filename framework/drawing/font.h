@@ -128,6 +128,9 @@ class zFont {
   int height() const { return ascent() + descent(); }
   int textWidth(std::string_view text) const;
 
+  // Whether texts look the same in both.
+  bool looksLike(const zFont& other) const { return real() == other.real(); }
+
   friend bool operator==(const zFont& a, const zFont& b) { return a.spec_ == b.spec_; }
 
  private:

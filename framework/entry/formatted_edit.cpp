@@ -28,21 +28,24 @@ void zFormattedEdit::setFormatter(std::unique_ptr<zFormatter> formatter) {
 }
 
 void zFormattedEdit::showEmpty() {
-  showValue("");
+  zRange caret;
+  const std::string text = textOf("", caret);
+  showEdited(text, caret);
 }
 
-void zFormattedEdit::showValue(const std::string& value) {
+std::string zFormattedEdit::textOf(const std::string& value, zRange& caret) const {
+  if (!formatter_) return value;
   std::string text;
+  formatter_->addChars(text, "", 0, caret);
+  const std::string shown = ziSafeText(value);
+  const int length = static_cast<int>(shown.size());
+  if (length) formatter_->addChars(text, shown.c_str(), length, caret);
+  return text;
+}
+
+std::string zFormattedEdit::textOf(const std::string& value) const {
   zRange caret;
-  if (formatter_) {
-    formatter_->addChars(text, "", 0, caret);
-    const std::string shown = ziSafeText(value);
-    const int length = static_cast<int>(shown.size());
-    if (length) formatter_->addChars(text, shown.c_str(), length, caret);
-  } else {
-    text = value;
-  }
-  showEdited(text, caret);
+  return textOf(value, caret);
 }
 
 std::string zFormattedEdit::getRawText(unsigned long style) const {

@@ -30,13 +30,14 @@ class zFormattedEdit : public zEditLine {
 
  protected:
   bool takesEveryChange() const override { return formatter_ != nullptr; }
-  // Shows `value` as the formatter puts it into an empty field, or nothing of it when it refuses
-  // it.
-  void showValue(const std::string& value);
+  // `value` as the formatter puts it into an empty field, or nothing of it when it refuses it.
+  std::string textOf(const std::string& value) const;
   // Shows the text that an empty field has.
   void showEmpty();
 
  private:
+  // With the caret where the formatter has it then.
+  std::string textOf(const std::string& value, zRange& caret) const;
   int edit(const char* chars, int count, const zRange& range);
   zRange editedRange() const;
 

@@ -48,9 +48,9 @@ ziNumberEdit<Number>::ziNumberEdit(zWindow* parent, int id, Number* store, unsig
 
 template <class Number>
 void ziNumberEdit<Number>::setToDefault() {
-  showValue(store_ ? printed(*store_) : "");
-  const int caret = getFormatter() ? getFormatter()->firstWritablePosition(getText().c_str()) : 0;
-  selection(caret, caret);
+  const std::string text = textOf(store_ ? printed(*store_) : "");
+  const int caret = getFormatter() ? getFormatter()->firstWritablePosition(text.c_str()) : 0;
+  showEdited(text, {caret, caret});
 }
 
 template <class Number>

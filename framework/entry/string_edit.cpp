@@ -17,8 +17,7 @@ zStringEdit::zStringEdit(zWindow* parent, int id, std::string* store, unsigned l
     : zStringEdit(parent, id, store, std::make_unique<zMaskFormatter>(style), style) {}
 
 void zStringEdit::setToDefault() {
-  showValue(store_ ? *store_ : "");
-  selection(0, 0);
+  showEdited(textOf(store_ ? *store_ : ""), {0, 0});
 }
 
 int zStringEdit::storeData() {

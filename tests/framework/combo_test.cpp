@@ -101,6 +101,16 @@ TEST_F(ComboTest, SelectsByIndexOrBeginningAndTellsNobody) {
   EXPECT_EQ(form->changes + form->edits + form->drops, 0);
 }
 
+TEST_F(ComboTest, DrawsNothingForTheSelectionThatItHas) {
+  ASSERT_TRUE(x_driver::show(*form) && x_driver::giveFocus(*form->edit));
+  form->list->selection(1);
+  const unsigned long before = x_driver::requestsSent();
+  form->list->selection(1);
+  EXPECT_EQ(x_driver::requestsSent(), before);
+  form->list->selection(2);
+  EXPECT_GT(x_driver::requestsSent(), before);
+}
+
 TEST_F(ComboTest, BindsAnIndexOrAText) {
   int index = 3;
   std::string text = "b";

@@ -97,6 +97,29 @@ TEST(Edit, UndoesOneChangeAndRedoesIt) {
   }
 }
 
+TEST(Edit, TakesTheTextThatItHasWithoutDrawingIt) {
+  Form form;
+  zEditLine field(&form, firstId);
+  zEditBox box(&form, boxId);
+  ASSERT_TRUE(form.start(field));
+  field.text("one two");
+  const unsigned long before = x_driver::requestsSent();
+  field.text("one two");
+  EXPECT_EQ(x_driver::requestsSent(), before);
+  field.selection(1, 3);
+  field.text("one two");
+  EXPECT_EQ(shown(field), "one two|");
+  play(form, field, {{'!', alone, "one two!|"}, {XK_Home, alone, "|one two!", ""}});
+  field.text("one two!");
+  EXPECT_EQ(shown(field), "one two!|");
+  EXPECT_EQ(field.canUndo(), 0);
+  const std::string lines = "1\n2\n3\n4\n5\n6\n7\n8\n9";
+  box.text(lines.c_str());
+  XmTextSetTopCharacter(box.drawnWidget(), 0);
+  box.text(lines.c_str());
+  EXPECT_GT(XmTextGetTopCharacter(box.drawnWidget()), 0) << "its caret can be seen";
+}
+
 TEST(Edit, StylesShapeWhatIsTyped) {
   const std::pair<unsigned long, const char*> cases[] = {
       {zEditStyle::upperCase, "ABC"}, {zEditStyle::lowerCase, "abc"}, {zEditStyle::readOnly, ""}};

@@ -179,6 +179,9 @@ TEST(NumberEdits, ShowTypeAndStoreNumbers) {
   number = 7;
   field.setToDefault();
   EXPECT_EQ(field.getRawText(0), "+7");
+  const unsigned long before = x_driver::requestsSent();
+  field.setToDefault();
+  EXPECT_EQ(x_driver::requestsSent(), before) << "it shows that already";
   unsigned count = 40;
   auto* four = new zUnsignedIntEdit(&form, edit_form::boxId, &count, "####", 0);
   EXPECT_EQ(four->getText(), "40");

@@ -142,6 +142,22 @@ TEST(Tabs, StandInATemplate) {
   EXPECT_EQ(tabs.find(2), nullptr);
 }
 
+TEST(Tabs, DrawWhatChangesAlone) {
+  Notebook notebook;
+  ASSERT_TRUE(x_driver::show(notebook));
+  zTabCtrl& tabs = *notebook.first->tabs;
+  tabs.select(1);
+  x_driver::settle();
+  const auto cost = [&](const std::function<void()>& change) {
+    const unsigned long before = x_driver::requestsSent();
+    change();
+    x_driver::settle();
+    return x_driver::requestsSent() - before;
+  };
+  const unsigned long all = cost([&] { tabs.setDirty(nullptr, 0); });
+  EXPECT_LT(cost([&] { tabs.select(2); }), all / 2);
+}
+
 TEST(Notebook, TurnsItsPagesByMouseAndKeyboard) {
   Notebook notebook;
   EXPECT_EQ(notebook.changes, 1);  // the first page

@@ -3,12 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "framework/controls/check_box.h"
 #include "framework/controls/edit.h"
 #include "framework/controls/group_box.h"
 #include "framework/controls/radio_button.h"
+#include "framework/controls/static_text.h"
 #include "framework/controls/status_line.h"
 #include "framework/core/app.h"
 #include "framework/dialogs/form_dialog.h"
@@ -160,6 +163,32 @@ TEST(RadioController, KeepsOneSetAndItsVariableAlong) {
   controller.reset();
   form.click(one);
   EXPECT_EQ(form.stored, solo);
+}
+
+TEST(Buttons, DrawNothingForWhatTheyShow) {
+  Toggles form;
+  zRadioController controller(&form, one, three, &form.stored);
+  zStaticText label(&form, 40);
+  ASSERT_TRUE(x_driver::show(form));
+  const std::pair<const char*, std::function<void(bool other)>> cases[] = {
+      {"label", [&](bool other) { label.text(other ? "&Other" : "&Name:"); }},
+      {"mnemonic", [&](bool other) { label.text(other ? "Na&me:" : "&Name:"); }},
+      {"button", [&](bool other) { form.checks[1]->text(other ? "Yes" : "&Italic"); }},
+      {"check box", [&](bool other) { form.checks[0]->check(other); }},
+      {"radio buttons",
+       [&](bool other) {
+         form.stored = other ? one : two;
+         controller.setToDefault();
+       }},
+  };
+  for (const auto& [what, show] : cases) {
+    show(false);
+    const unsigned long before = x_driver::requestsSent();
+    show(false);
+    EXPECT_EQ(x_driver::requestsSent(), before) << what;
+    show(true);
+    EXPECT_GT(x_driver::requestsSent(), before) << what;
+  }
 }
 
 TEST(Buttons, AnswerToTheirMnemonics) {
