@@ -185,7 +185,9 @@ TEST_F(ControlTest, FramesAreExactToTheByte) {
        {},
        "IPATM_DISABLE\n"},
       {"routed PVC",
-       [](int s) { return ip1577Request(s, 5, 0).addPvcDumped(payloadOf<rtdPvcReqStruct>(routed)); },
+       [](int s) {
+         return ip1577Request(s, 5, 0).addPvcDumped(payloadOf<rtdPvcReqStruct>(routed));
+       },
        head(primIpControl, 4, 0, 72), route.bytes, "IPATM_PVCADD\n  a 14 1e 28 34 12  1"},
       {"port", [](int s) { return sigRequest(s, 5, 0).PortEnableDisable(2); },
        head(primSigControl, 5, 0, 27),
