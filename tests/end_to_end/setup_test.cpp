@@ -47,7 +47,6 @@ class SetupWindow {
     constexpr int mainWidth = 286, mainHeight = 158;
     person_.click(window, left + spot.x * unit_.width / mainWidth,
                   top + spot.y * unit_.height / mainHeight);
-    usleep(focusDelay);
   }
   void key(KeySym symbol, int times = 1) const {
     while (times-- > 0) person_.key(symbol);
@@ -73,6 +72,7 @@ class SetupWindow {
   // The tabs of a page, counted from 1.
   void turnToTab(int tab) const {
     click({8, 8});
+    usleep(focusDelay);
     key(XK_Home);
     key(XK_Right, tab - 1);
   }
@@ -82,7 +82,8 @@ class SetupWindow {
   const Window window;
 
  private:
-  static constexpr useconds_t focusDelay = 300000;
+  // A click on a tab moves the focus 150 ms later, and nothing to be seen from outside tells when.
+  static constexpr useconds_t focusDelay = 1000000;
 
   void pressButton(int x) const { person_.click(window, x, person_.size(window).height - 20); }
 
