@@ -1,6 +1,8 @@
 // A host to run the applet on, and the applet's main window in the test's hands.
 #pragma once
 
+#include <unistd.h>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,6 +30,12 @@ constexpr Spot closeButton{250, 103};
 inline std::string sourceText(const std::string& name) {
   std::ifstream file(ONDRELLE_SOURCE_DIR "/data/" + name);
   return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The applet moves the keyboard's focus within a window 150 ms after what asked for it, and nothing
+// to be seen from outside tells when.
+inline void letFocusMove() {
+  usleep(1000000);
 }
 
 // The folder that the applet takes for its host, with the sample configuration.

@@ -35,7 +35,7 @@ TEST(Hostile, WithoutADriver) {
   expectUsable(scratch.file(""), "dai_open: ioctlDesc: -1  OpenSuccess: 0");
 }
 
-TEST(Hostile, SetupWithoutADriverSaysSoFirst) {
+TEST(Hostile, SetupWithoutADriverSaysSoAndEditsTheFile) {
   if (getuid() != 0) GTEST_SKIP() << "needs user 0";
   const LisimScratch scratch;
   installConfiguration(scratch.file(""));
@@ -47,8 +47,18 @@ TEST(Hostile, SetupWithoutADriverSaysSoFirst) {
   EXPECT_TRUE(person.windows("Setup Adapter 0 - -").empty());
   EXPECT_EQ(run.errors().find("Stopping main timer."), std::string::npos);
   person.key(XK_Return);
-  EXPECT_NE(person.await("Setup Adapter 0 - -"), None);
+  const Window setup = person.await("Setup Adapter 0 - -");
+  ASSERT_NE(setup, None);
   EXPECT_TRUE(run.logged("Stopping main timer."));
+  lisimWaitFor([&] { return person.hasFocus(setup); });
+  letFocusMove();
+  for (const KeySym key : {XK_Tab, XK_space, XK_Tab, XK_Tab, XK_Return})
+    person.key(key);  // SDH, Ok
+  EXPECT_TRUE(run.logged("Starting main timer.", 2));
+  std::ifstream file(scratch.file("etc/atm/odconf"));
+  std::string line;
+  while (std::getline(file, line) && line.find("\tFraming") == std::string::npos) continue;
+  EXPECT_NE(line.find("= 1"), std::string::npos) << line;
 }
 
 TEST(Hostile, DriversThatMisbehave) {

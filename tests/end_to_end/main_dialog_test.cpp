@@ -210,6 +210,7 @@ TEST(MainDialog, SetupIsModalForUser0) {
     EXPECT_TRUE(run.logged("Stopping main timer.", round));
     main.click(closeButton);  // out of reach
     lisimWaitFor([&] { return person.hasFocus(dialog); });
+    letFocusMove();
     if (keys.empty()) person.closeByManager(dialog);
     for (const KeySym key : keys) person.key(key);
     EXPECT_TRUE(run.logged("Starting main timer.", round + 1));

@@ -64,7 +64,7 @@ class SetupWindow {
   // Turns to a page: the first tab, which passes the focus to its page after a while, and the keys.
   void turnTo(Page page) const {
     person_.click(window, 30, 12);
-    usleep(focusDelay);
+    letFocusMove();
     person_.key(XK_Tab, {XK_Shift_L});
     key(XK_Home);
     key(XK_Right, page);
@@ -72,7 +72,7 @@ class SetupWindow {
   // The tabs of a page, counted from 1.
   void turnToTab(int tab) const {
     click({8, 8});
-    usleep(focusDelay);
+    letFocusMove();
     key(XK_Home);
     key(XK_Right, tab - 1);
   }
@@ -82,9 +82,6 @@ class SetupWindow {
   const Window window;
 
  private:
-  // A click on a tab moves the focus 150 ms later, and nothing to be seen from outside tells when.
-  static constexpr useconds_t focusDelay = 1000000;
-
   void pressButton(int x) const { person_.click(window, x, person_.size(window).height - 20); }
 
   const Person& person_;
@@ -315,6 +312,7 @@ TEST(Setup, ByTheKeyboardAlone) {
   const Window window = person.await(setupTitle);
   ASSERT_NE(window, None);
   lisimWaitFor([&] { return person.hasFocus(window); });
+  letFocusMove();
   press(XK_Tab);
   press(XK_space);  // SDH
   press(XK_Tab, 2);
