@@ -205,12 +205,10 @@ void DConfigDlgLESPG::delClient(const esiSelector& esi, short les) {
   const std::string text = textOf(esi);
   const std::string failure = "Unable to Dynamically Delete " + text;
   odlog << text << std::endl;
-  if (driverDeletes(esi, les)) {
+  if (driverDeletes(esi, les) || (les >= 0 && changesListAnyway(failure))) {
     removeClient(esi, les);
   } else if (les < 0) {
     zMessage(this, failure.c_str(), errorTitle, 48);
-  } else if (changesListAnyway(failure)) {
-    removeClient(esi, les);
   }
   if (les == currentLes_) UpdateClientLB(les);
 }
