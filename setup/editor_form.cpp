@@ -17,12 +17,6 @@ void EditorForm::makeButtons(int okBitmap, int cancelBitmap) {
   make(cancelButton, cancelBitmap, &EditorForm::clickedCancelBTN);
 }
 
-void EditorForm::hide(std::initializer_list<int> ids) {
-  for (const int id : ids) {
-    if (zWindow* control = get(id)) control->show(0);
-  }
-}
-
 int EditorForm::clickedOkBTN(zNotifyEvt*) {
   StoreDefaults();
   completed() = 1;

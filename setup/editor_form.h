@@ -2,8 +2,6 @@
 // page through a buffer of its own; completed() tells the page whether to read it.
 #pragma once
 
-#include <initializer_list>
-
 #include "framework/dialogs/form_dialog.h"
 
 class EditorForm : public zFormDialog {
@@ -23,7 +21,6 @@ class EditorForm : public zFormDialog {
 
   // Puts the handlers and the pictures of two bitmap resources on the buttons.
   void makeButtons(int okBitmap, int cancelBitmap);
-  void hide(std::initializer_list<int> ids);
 
   virtual void StoreDefaults() = 0;
 };

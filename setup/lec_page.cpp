@@ -8,6 +8,7 @@
 #include "framework/controls/check_box.h"
 #include "framework/controls/edit.h"
 #include "framework/controls/tab_control.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "framework/entry/number_edits.h"
 #include "setup/setup_session.h"
 
@@ -71,7 +72,7 @@ DConfigDlgLECPG::DConfigDlgLECPG(zNotebookDialog* notebook, zPageDef* def)
   connect();
   tabs_->select(1);
   setSensitive({173}, false);
-  hide({155, 156, 157});
+  hideControls(this, {155, 156, 157});
 }
 
 DConfigDlgLECPG::~DConfigDlgLECPG() = default;

@@ -4,6 +4,7 @@
 #include "atm/transfer_buffers.h"
 #include "foundation/odlog.h"
 #include "framework/controls/check_box.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "framework/dialogs/message.h"
 #include "framework/entry/number_edits.h"
 #include "setup/config_dialog.h"
@@ -68,7 +69,7 @@ void DConfigDlgPhysicalPG::createControls() {
 void DConfigDlgPhysicalPG::createHidden() {
   interruptBox_ = make<ChoiceBox>(132, 544, &interrupt_);
   interruptBox_->setNotifySelChange(this, &DConfigDlgPhysicalPG::selChangeInterruptCBO);
-  hide({128, 127, 130, 131, 129, 133, 132});
+  hideControls(this, {128, 127, 130, 131, 129, 133, 132});
 }
 
 // Between the buffer and the fields.

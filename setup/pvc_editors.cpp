@@ -4,6 +4,7 @@
 #include "framework/controls/button.h"
 #include "framework/controls/check_box.h"
 #include "framework/controls/combo_box.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "framework/entry/number_edits.h"
 #include "framework/entry/string_edit.h"
 #include "framework/resources/resources.h"
@@ -32,7 +33,7 @@ void PvcEditor::makeHidden(int rateLabelId, int rateId, int servicesBlock, int s
   rateField_ = new zUnsignedIntEdit(this, rateId, &rate_, "####.###",
                                     static_cast<unsigned long>(zFormatter::rawValue));
   unitsButton_ = new zPushButton(this, 280);
-  hide({276, 277, rateLabelId, rateId, 280});
+  hideControls(this, {276, 277, rateLabelId, rateId, 280});
 }
 
 // The rate's field shows less of a number than the record can hold.
@@ -87,7 +88,7 @@ DLecPvcDLG::DLecPvcDLG(zWindow* parent, const zResId& id) : PvcEditor(parent, id
   broadcastBox_->setToDefault();
   makeHidden(286, 287, 563, 2);
   unitsButton_->setNotifyClicked(this, &DLecPvcDLG::clickedRateUnitsBTN);
-  hide({285});
+  hideControls(this, {285});
   makeButtons(531, 532);
   centerWindow(1);
   show(1);

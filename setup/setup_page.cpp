@@ -92,9 +92,3 @@ void SetupPage::setSensitive(std::initializer_list<int> ids, bool sensitive) {
     }
   }
 }
-
-void SetupPage::hide(std::initializer_list<int> ids) {
-  for (const int id : ids) {
-    if (zWindow* control = get(id)) control->show(0);
-  }
-}

@@ -74,7 +74,6 @@ class SetupPage : public zDialogPage {
   // Has all the controls made so far show the variables that they are bound to.
   void showFields();
   void setSensitive(std::initializer_list<int> ids, bool sensitive);
-  void hide(std::initializer_list<int> ids);
 
  private:
   void add(zChildWin* control);

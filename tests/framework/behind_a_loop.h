@@ -3,7 +3,7 @@
 
 #include <functional>
 #include <memory>
-#include <string_view>
+#include <string>
 #include <utility>
 
 #include <X11/Intrinsic.h>
@@ -23,12 +23,14 @@ class Later : public zEvH {
   zOneShotTimer timer_;
 };
 
-// Answers a message box as soon as that has the keyboard.
+// Does something once, as soon as a message box, or the form with this title, has the keyboard.
 class AnswersBox : public zEvH {
  public:
-  explicit AnswersBox(std::function<void()> action)
+  explicit AnswersBox(std::function<void()> action, std::string shell = "MessageBox_popup")
       : action_(std::move(action)),
+        shell_(std::move(shell)),
         timer_(std::make_unique<zTimer>(this, &AnswersBox::look, lookEveryMs)) {}
+  bool answered() const { return !timer_; }
 
  private:
   static constexpr unsigned long lookEveryMs = 50;
@@ -39,12 +41,13 @@ class AnswersBox : public zEvH {
     XGetInputFocus(app->display(), &focused, &revert);
     Widget shell = XtWindowToWidget(app->display(), focused);
     while (shell && !XtIsShell(shell)) shell = XtParent(shell);
-    if (!shell || std::string_view(XtName(shell)) != "MessageBox_popup") return;
+    if (!shell || XtName(shell) != shell_) return;
     timer_.reset();
     action_();
   }
 
   std::function<void()> action_;
+  std::string shell_;
   std::unique_ptr<zTimer> timer_;
 };
 

@@ -1,6 +1,7 @@
 // Circuits and clients: their forms, and what the pages do with them at once.
 #include "tests/setup/notebook_stage.h"
 
+#include "driver/ip1577_request.h"
 #include "driver/lec_request.h"
 #include "driver/lecs_request.h"
 #include "framework/controls/list_box.h"
@@ -17,31 +18,9 @@ constexpr char lecQuestion[] =
     "PVC Error: Unable to Dynamically Add PVC\nDo you still want to modify Static Configuration?";
 
 // Presses a key in the form with this title, as soon as that has the keyboard.
-class InForm : public zEvH {
- public:
-  InForm(std::string title, KeySym key)
-      : title_(std::move(title)), key_(key), timer_(this, &InForm::look, lookEveryMs) {}
-  bool found() const { return found_; }
-
- private:
-  static constexpr unsigned long lookEveryMs = 50;
-
-  void look() {
-    Window focused = None;
-    int revert = 0;
-    XGetInputFocus(app->display(), &focused, &revert);
-    Widget shell = XtWindowToWidget(app->display(), focused);
-    while (shell && !XtIsShell(shell)) shell = XtParent(shell);
-    if (found_ || !shell || XtName(shell) != title_) return;
-    found_ = true;
-    x_driver::key(key_);
-  }
-
-  std::string title_;
-  KeySym key_;
-  bool found_ = false;
-  zTimer timer_;
-};
+AnswersBox inForm(const char* title, KeySym key) {
+  return AnswersBox([key] { x_driver::key(key); }, title);
+}
 
 AtmBridgedPvc bridged(unsigned char last, std::uint16_t vci) {
   return {{{2, 0, 0, 0, 0, last}}, vci, 1, 0, 155520000};
@@ -95,7 +74,7 @@ TEST(PvcEditors, EndByKeysAndKeepTheBufferWhenCancelled) {
     control(form, 275).text("7");
     x_driver::show(form);
     ASSERT_TRUE(x_driver::giveFocus(control(form, 275)));
-    const InForm end("PVC Settings", key);
+    const AnswersBox end = inForm("PVC Settings", key);
     form.modal();
     EXPECT_EQ(form.completed(), key == XK_Return);
     EXPECT_EQ(bridgedPvcXferBuffer == before, key == XK_Escape);
@@ -139,7 +118,7 @@ TEST(Circuits, OfTheFirstNotebookAreAskedAbout) {
   notebook.select(notebook.findPage(571));
   bridgedPvcXferBuffer = bridged(1, 100);
   for (const KeySym answer : {XK_Escape, XK_Return}) {
-    const InForm form("PVC Settings", XK_Return);
+    const AnswersBox form = inForm("PVC Settings", XK_Return);
     const BoxReader boxes(answer);
     page.clickedAddBTN(nullptr);
     EXPECT_EQ(boxes.boxes(), Lines{lecQuestion});
@@ -173,7 +152,7 @@ TEST(Circuits, GoToTheDriverAtOnceFromTheSecondNotebookOn) {
   bridgedPvcXferBuffer = bridged(9, 200);
   const BoxReader boxes(XK_Escape);
   {
-    const InForm form("PVC Settings", XK_Return);
+    const AnswersBox form = inForm("PVC Settings", XK_Return);
     page.clickedAddBTN(nullptr);
   }
   EXPECT_EQ(xferBuffer[2].pvcs.size(), 4U);
@@ -203,11 +182,38 @@ TEST(Circuits, GoToTheDriverAtOnceFromTheSecondNotebookOn) {
   // A circuit is changed in the list alone.
   {
     bridgedPvcXferBuffer = {};
-    const InForm form("PVC Settings", XK_Return);
+    const AnswersBox form = inForm("PVC Settings", XK_Return);
     page.clickedModifyBTN(nullptr);
   }
   EXPECT_EQ(xferBuffer[2].pvcs, std::vector{bridged(77, 177)});
   EXPECT_EQ(boxes.boxes().size(), 1U);
+}
+
+TEST(Circuits, OfIpGoToTheDriverAtOnceToo) {
+  NotebookStage stage(services);
+  ip1577XferBuffer.Enabled = 1;
+  const auto notebook = stage.connected();
+  ASSERT_TRUE(x_driver::show(*notebook));
+  DConfigDlgI1577PG& page = *notebook->ip1577Page();
+  notebook->select(notebook->findPage(574));
+  ip1577Request ip(SetupIoctlDesc, 1, 0);
+  ASSERT_EQ(ip.enable(payloadOf<ip1577ReqStruct>(AtmIP1577())), 0);
+  const AtmRoutedPvc circuit = {{{10, 1, 2, 3}}, 321, 1, 1, 0};
+  const BoxReader boxes(XK_Escape);
+  // The driver takes a circuit once, and knows no circuit twice.
+  for (const std::size_t questions : {0, 1}) {
+    pvcXferBuffer = circuit;
+    const AnswersBox form = inForm("PVC Settings", XK_Return);
+    page.clickedAddBTN(nullptr);
+    EXPECT_EQ(ip1577XferBuffer.pvcs, std::vector{circuit});
+    EXPECT_EQ(boxes.boxes().size(), questions);
+  }
+  static_cast<I1577PGPvcTBL*>(page.get(171))->setActiveCell({1, 1});
+  page.clickedDeleteBTN(nullptr);
+  EXPECT_TRUE(ip1577XferBuffer.pvcs.empty());
+  EXPECT_EQ(boxes.boxes().size(), 1U);
+  EXPECT_EQ(requestsOf(stage.driver, "65/4"), 2U);
+  EXPECT_EQ(requestsOf(stage.driver, "65/5"), 1U);
 }
 
 TEST(Circuits, OfAListOfManyRows) {
@@ -267,7 +273,8 @@ TEST(Clients, AreListedAddedAndDeleted) {
   esiSelectorXferBuffer = esiSelector();
   list.selection(1);
   {
-    const InForm form("Add ELAN Client", XK_Return);  // with what the list has selected
+    const AnswersBox form =
+        inForm("Add ELAN Client", XK_Return);  // with what the list has selected
     page.clickedAddBTN(nullptr);
   }
   EXPECT_TRUE(boxes.boxes().empty());
@@ -313,9 +320,9 @@ TEST(Clients, MoveFromOtherServers) {
   const BoxReader boxes(XK_Escape);
   const LogText log;
   {
-    InForm form("Insert ELAN Client(s)", XK_Escape);
+    AnswersBox form = inForm("Insert ELAN Client(s)", XK_Escape);
     page.clickedMoveBTN(nullptr);
-    EXPECT_TRUE(form.found());
+    EXPECT_TRUE(form.answered());
   }
   EXPECT_EQ(esiXferBuffer, (std::vector{client(4), client(5), client(0xB)}));
   EXPECT_EQ(indexXferBuffer, (std::vector{3, 3, 7}));
