@@ -237,12 +237,3 @@ void zApp::zAppEntry() {
   if (!ConfDaiOpenSuccess) std::abort();
   benchmark::RunSpecifiedBenchmarks();
 }
-
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  ZAPPXMprogname = argv[0];
-  app = new zApp(1, argv, "");
-  app->zAppEntry();
-  delete app;
-  return 0;
-}

@@ -335,12 +335,3 @@ void zApp::zAppEntry() {
   stage = &everything;
   benchmark::RunSpecifiedBenchmarks();
 }
-
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  ZAPPXMprogname = argv[0];
-  app = new zApp(1, argv, "");
-  app->zAppEntry();
-  delete app;
-  return 0;
-}

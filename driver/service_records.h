@@ -135,10 +135,14 @@ static_assert(sizeof(lecs_stats) == 48 && offsetof(lecs_stats, registered) == 24
               offsetof(lecs_stats, connectionsOpen) == 44);
 
 // A client mapping.
+enum class Mapping : std::uint8_t {
+  configured = 1,
+  learnt = 2,  // by the running server itself: the configuration does not hold it
+};
 struct lecs_tbl {
   std::uint8_t esiSelector[7];
-  std::uint8_t les;   // index of its server
-  std::uint8_t kind;  // 2 for one that the configuration does not hold
+  std::uint8_t les;  // index of its server
+  Mapping kind;
 };
 static_assert(sizeof(lecs_tbl) == 9 && offsetof(lecs_tbl, les) == 7);
 

@@ -7,6 +7,7 @@
 #include "framework/controls/bitmap_button.h"
 #include "framework/controls/check_box.h"
 #include "framework/controls/tab_control.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "setup/field_formats.h"
 #include "setup/setup_session.h"
 
@@ -63,7 +64,7 @@ DConfigDlgI1577PG::DConfigDlgI1577PG(zNotebookDialog* notebook, zPageDef* def)
   pvcOnlyBox_->setNotifyClicked(this, &DConfigDlgI1577PG::clickedPvcOnlyCB);
   serverBox_->setNotifyClicked(this, &DConfigDlgI1577PG::clickedEnableServerCB);
   tabs_->select(1);
-  setSensitive({173}, false);
+  enableControls(this, {173}, false);
   odlog << "Finished config 1577 page setup" << std::endl;
 }
 
@@ -132,10 +133,10 @@ void DConfigDlgI1577PG::storeDefaults() {
 void DConfigDlgI1577PG::ToggleControls() {
   const bool on = enabledBox_->check();
   const bool hasServer = on && !pvcOnlyBox_->check();
-  setSensitive({152, 193, 194, 172, 174, 170, 171, 191, 192}, on);
-  setSensitive({196}, hasServer);
-  setSensitive(serverControls, hasServer && !serverBox_->check());
-  if (!on) setSensitive({173}, false);
+  enableControls(this, {152, 193, 194, 172, 174, 170, 171, 191, 192}, on);
+  enableControls(this, {196}, hasServer);
+  enableControls(this, serverControls, hasServer && !serverBox_->check());
+  if (!on) enableControls(this, {173}, false);
 }
 
 int DConfigDlgI1577PG::clickedEnableCB(zNotifyEvt*) {
@@ -156,7 +157,7 @@ int DConfigDlgI1577PG::clickedEnableServerCB(zNotifyEvt*) {
   } else {
     serverField_->setToDefault();
   }
-  setSensitive(serverControls, !isServer);
+  enableControls(this, serverControls, !isServer);
   return 0;
 }
 

@@ -71,7 +71,7 @@ DConfigDlgLECPG::DConfigDlgLECPG(zNotebookDialog* notebook, zPageDef* def)
   throughGroup_->setToDefault();
   connect();
   tabs_->select(1);
-  setSensitive({173}, false);
+  enableControls(this, {173}, false);
   hideControls(this, {155, 156, 157});
 }
 
@@ -182,10 +182,10 @@ void DConfigDlgLECPG::storeDefaults(short client) {
 
 void DConfigDlgLECPG::ToggleControls() {
   const bool on = enabledBox_->check();
-  setSensitive({152, 170, 172, 174, 164, 165, 155, 156, 157}, on);
-  setSensitive({167, 166, 159, 158, 161, 160, 163, 162, 147, 148, 168, 169, 154},
-               on && !pvcOnlyBox_->check());
-  if (!on) setSensitive({173}, false);
+  enableControls(this, {152, 170, 172, 174, 164, 165, 155, 156, 157}, on);
+  enableControls(this, {167, 166, 159, 158, 161, 160, 163, 162, 147, 148, 168, 169, 154},
+                 on && !pvcOnlyBox_->check());
+  if (!on) enableControls(this, {173}, false);
   for (const int button : {lesButton, lecsButton}) get(button)->setDirty(nullptr, 1);
   update();
 }

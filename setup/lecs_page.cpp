@@ -3,6 +3,7 @@
 #include "atm/transfer_buffers.h"
 #include "foundation/odlog.h"
 #include "framework/controls/check_box.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "setup/elan_type.h"
 
 namespace {
@@ -68,7 +69,8 @@ void DConfigDlgLECSPG::storeDefaults() {
 // What can be used.
 
 void DConfigDlgLECSPG::ToggleControls() {
-  setSensitive({147, 148, 168, 169, 184, 188, 185, 186, 187, 176, 177}, enabledBox_->check());
+  enableControls(this, {147, 148, 168, 169, 184, 188, 185, 186, 187, 176, 177},
+                 enabledBox_->check());
   update();
 }
 

@@ -13,6 +13,7 @@
 #include "framework/controls/edit.h"
 #include "framework/controls/list_box.h"
 #include "framework/controls/tab_control.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "framework/dialogs/message.h"
 #include "setup/elan_dialogs.h"
 #include "setup/elan_type.h"
@@ -20,7 +21,6 @@
 
 namespace {
 
-constexpr int temporaryKind = 2;
 constexpr char errorTitle[] = "ELAN Client Error";
 
 const zStatusMessage DConfigDlgLESPGMsgs[] = {
@@ -135,7 +135,8 @@ int DConfigDlgLESPG::selChangeLesTB(zNotifyEvt*) {
 // What can be used.
 
 void DConfigDlgLESPG::ToggleControls() {
-  setSensitive({162, 179, 158, 159, 178, 163, 176, 177, 172, 182, 174, 181}, enabledBox_->check());
+  enableControls(this, {162, 179, 158, 159, 178, 163, 176, 177, 172, 182, 174, 181},
+                 enabledBox_->check());
   update();
 }
 
@@ -158,7 +159,7 @@ void DConfigDlgLESPG::UpdateClientLB(short les) {
     lines.push_back(textOf(client) + "  PERM");
   if (enabledBox_->check()) {
     for (const lecs_tbl& row : mappings()) {
-      if (row.les == les && row.kind == temporaryKind)
+      if (row.les == les && row.kind == Mapping::learnt)
         lines.push_back(textOf(clientOf(row)) + "  TEMP");
     }
   }
@@ -281,6 +282,7 @@ void DConfigDlgLESPG::collectOthers() {
   const std::span<const lecs_tbl> rows = mappings();
   if (!rows.empty()) odlog << "getting temp entries" << std::endl;
   for (const lecs_tbl& row : rows) {
-    if (row.les != currentLes_ && row.kind == temporaryKind) append(clientOf(row), row.les, false);
+    if (row.les != currentLes_ && row.kind == Mapping::learnt)
+      append(clientOf(row), row.les, false);
   }
 }

@@ -45,7 +45,7 @@ DConfigDlgPhysicalPG::DConfigDlgPhysicalPG(DConfigDlg* notebook, zPageDef* def)
   Setup();
   createControls();
   createHidden();
-  if (boardType_ < primary) setSensitive(primaryOnly, false);
+  if (boardType_ < primary) enableControls(this, primaryOnly, false);
 }
 
 void DConfigDlgPhysicalPG::createControls() {
@@ -137,11 +137,11 @@ int DConfigDlgPhysicalPG::selChangeBoardTypeCBO(zNotifyEvt*) {
   const int selected = boardTypeBox_->selection();
   odlog << "selChangeBoardTypeCBO: selection == " << selected << std::endl;
   if (selected == primary) {
-    setSensitive(primaryOnly, true);
+    enableControls(this, primaryOnly, true);
   } else if (selected != backup) {
     odlog << "???? " << std::endl;
   } else if (currentAdapter != 0) {
-    setSensitive(primaryOnly, false);
+    enableControls(this, primaryOnly, false);
   } else {
     zMessage(this, "Not Allowed!\nAdapter 1 may NOT be a Backup.", "Restriction", 0x30);
     boardTypeBox_->selection(primary);

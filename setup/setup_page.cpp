@@ -80,15 +80,3 @@ zTabCtrl* SetupPage::makeTabs(int id, int count, const char* nameFormat) {
 void SetupPage::showFields() {
   for (zChildWin* control : controls_) control->setToDefault();
 }
-
-void SetupPage::setSensitive(std::initializer_list<int> ids, bool sensitive) {
-  for (const int id : ids) {
-    zWindow* control = get(id);
-    if (!control || control->isEnabled() == sensitive) continue;
-    if (sensitive) {
-      control->enable();
-    } else {
-      control->disable();
-    }
-  }
-}

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -73,7 +72,6 @@ class SetupPage : public zDialogPage {
 
   // Has all the controls made so far show the variables that they are bound to.
   void showFields();
-  void setSensitive(std::initializer_list<int> ids, bool sensitive);
 
  private:
   void add(zChildWin* control);

@@ -3,6 +3,7 @@
 #include "atm/transfer_buffers.h"
 #include "foundation/odlog.h"
 #include "framework/controls/check_box.h"
+#include "framework/dialogs/dialog_controls.h"
 #include "framework/entry/number_edits.h"
 #include "setup/field_formats.h"
 
@@ -87,11 +88,11 @@ void DConfigDlgSignalPG::showVpi() {
 void DConfigDlgSignalPG::ToggleControls() {
   const bool on = enabledBox_->check();
   const bool registers = registrationBox_->check();
-  setSensitive({135}, true);
-  setSensitive({144, 145, 146, 136, 138, 139, 120, 140, 141, 142, 143}, on);
-  setSensitive({137}, on && !autoConfigBox_->check());
-  setSensitive({147, 148}, on && !registers);
-  setSensitive({149, 150}, on && registers);
+  enableControls(this, {135}, true);
+  enableControls(this, {144, 145, 146, 136, 138, 139, 120, 140, 141, 142, 143}, on);
+  enableControls(this, {137}, on && !autoConfigBox_->check());
+  enableControls(this, {147, 148}, on && !registers);
+  enableControls(this, {149, 150}, on && registers);
   update();
 }
 

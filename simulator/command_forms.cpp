@@ -132,10 +132,9 @@ Reply setSignalling(Simulator& simulator, const Values& values, Milliseconds now
 
 // A client that the configuration server has learnt of by itself.
 Reply addMapping(Simulator& simulator, const Values& values, Milliseconds) {
-  constexpr std::uint8_t learnt = 2;
   ConfigServer& server = boardOf(simulator, values).services.configServer;
   if (!server.enabled) return outcome(Answer::notRunning);
-  lecs_tbl row{{}, static_cast<std::uint8_t>(values[1].number), learnt};
+  lecs_tbl row{{}, static_cast<std::uint8_t>(values[1].number), Mapping::learnt};
   auto bits = static_cast<std::uint64_t>(values[2].number) << 8 |
               static_cast<std::uint64_t>(values[3].number);
   for (std::size_t i = std::size(row.esiSelector); i-- > 0; bits >>= 8)

@@ -159,13 +159,12 @@ auto findClient(ConfigServer& server, const lecs_req& client) {
 
 // Which server the client goes to is not in the request.
 Answer addMapping(Request& request) {
-  constexpr std::uint8_t configured = 1;
   ConfigServer& server = configServerOf(request);
   if (!server.enabled) return Answer::notRunning;
   const auto client = request.input<lecs_req>();
   lecs_tbl row{};
   std::memcpy(row.esiSelector, client.esiSelector, sizeof row.esiSelector);
-  row.kind = configured;
+  row.kind = Mapping::configured;
   const auto known = findClient(server, client);
   if (known != server.clients.end()) {
     *known = row;

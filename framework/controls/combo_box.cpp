@@ -140,10 +140,9 @@ void zComboBoxBase::vmove(int x, int y, int width, int height) {
   ziItemControl::vmove(x, y, width, subtype() == simple ? height : lineHeight(height));
 }
 
-void zComboBoxBase::setFont(std::shared_ptr<zFont> font, int redraw) {
-  const bool looksNew = ziLooksNew(font);
-  ziItemControl::setFont(font, redraw);
-  if (textWidget() && looksNew) ziSetFontList(textWidget(), font->fontList());
+void zComboBoxBase::ziShowFont() {
+  ziItemControl::ziShowFont();
+  if (textWidget()) ziSetFontList(textWidget(), getFont()->fontList());
 }
 
 void zComboBoxBase::ziBackgroundColor(const zColor& color) {

@@ -47,7 +47,6 @@ class zComboBoxBase : public ziItemControl {
   int show(int visible) override;
   int disable() override;
   void vmove(int x, int y, int width, int height) override;
-  void setFont(std::shared_ptr<zFont> font, int redraw) override;
   void ziBackgroundColor(const zColor& color) override;
   int mouseButtonDown(zMouseClickEvt* event) override;
 
@@ -95,6 +94,7 @@ class zComboBoxBase : public ziItemControl {
 
  protected:
   void doText(const char* value) override;
+  void ziShowFont() override;
   void currentRemoved() override;
   void selectStored(const std::string& text) override;
 

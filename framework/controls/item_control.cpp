@@ -77,10 +77,9 @@ void ziItemControl::setListColors(const zColor& background) const {
   }
 }
 
-void ziItemControl::setFont(std::shared_ptr<zFont> font, int redraw) {
-  const bool looksNew = ziLooksNew(font);
-  zControl::setFont(font, redraw);
-  if (list_ && looksNew) ziSetFontList(list_, font->fontList());
+void ziItemControl::ziShowFont() {
+  zControl::ziShowFont();
+  if (list_) ziSetFontList(list_, getFont()->fontList());
 }
 
 // Items.

@@ -65,7 +65,6 @@ class ziItemControl : public zControl {
   int storeData() override;
 
   std::string getText() const override { return itemText(selection()); }
-  void setFont(std::shared_ptr<zFont> font, int redraw) override;
 
   template <class T, class M>
   void setNotifySelChange(T* object, M member) {
@@ -91,6 +90,8 @@ class ziItemControl : public zControl {
   // bury() to the derived class.
   ziItemControl(zWindow* parent, int id, unsigned type, ziItemStore store,
                 unsigned long bindingStyle);
+
+  void ziShowFont() override;
 
   // Makes a white XmList in a scrolled window; the list is the one of this control from here on.
   // Returns the list.

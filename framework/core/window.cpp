@@ -248,15 +248,15 @@ void zWindow::ziBackgroundColor(const zColor& color) {
   if (scrolledWidget_) XmChangeColor(scrolledWidget_, ziClrm->pixel(color));
 }
 
-bool zWindow::ziLooksNew(const std::shared_ptr<zFont>& font) const {
-  return font && !(font_ && font->looksLike(*font_));
+void zWindow::ziShowFont() {
+  if (mainWidget_) ziSetFontList(drawnWidget(), font_->fontList());
 }
 
 void zWindow::setFont(std::shared_ptr<zFont> font, int redraw) {
   if (font == font_) return;
-  const bool looksNew = ziLooksNew(font);
+  const bool looksNew = font && !(font_ && font->looksLike(*font_));
   font_ = std::move(font);
-  if (mainWidget_ && looksNew) ziSetFontList(drawnWidget(), font_->fontList());
+  if (looksNew) ziShowFont();
   for (zWindow* kid : kids_) kid->setFont(font_, redraw);
 }
 

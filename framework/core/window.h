@@ -174,8 +174,8 @@ class zWindow : public zEvH {
 
  protected:
   zWindow(ziAdopt, zWindow* parent);
-  // Whether texts would look other in this font; never in null.
-  bool ziLooksNew(const std::shared_ptr<zFont>& font) const;
+  // Has the window's widgets draw their texts in its font. Called when that looks new.
+  virtual void ziShowFont();
 
   void setTitle(const std::string& title) { title_ = title; }
   void setCtrlId(int id) { ctrlId_ = id; }

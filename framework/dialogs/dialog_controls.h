@@ -7,3 +7,4 @@ class zWindow;
 
 // Ids that `dialog` does not have are passed over.
 void hideControls(zWindow* dialog, std::initializer_list<int> ids);
+void enableControls(zWindow* dialog, std::initializer_list<int> ids, bool on);

@@ -170,7 +170,7 @@ TEST_F(Services, TheConfigurationServerTakesMappings) {
   EXPECT_EQ(count(Query::LecsTable), 2) << "the same client again is the same row";
   const LisimAnswer rows = ask(Query::LecsTable, 0, 9);
   EXPECT_EQ(rows.as<lecs_tbl>(9).esiSelector[6], 8);
-  EXPECT_NE(rows.as<lecs_tbl>(9).kind, 2);
+  EXPECT_NE(rows.as<lecs_tbl>(9).kind, Mapping::learnt);
   EXPECT_EQ(control(Control::LecsDeleteClient, 255, record), Answer::done);
   EXPECT_EQ(control(Control::LecsDeleteClient, 255, record), Answer::noSuchEntry);
   EXPECT_EQ(control(Control::LecsGo, 255), Answer::done) << "with a row left over in the head";
