@@ -3,12 +3,21 @@
 
 #include "framework/controls/bitmap_button.h"
 
-// A bitmap button that shows a state: disabled, enabled, or enabled and checked. `check(int)` sets
-// it; the mouse and the keyboard do nothing.
+// What a lamp shows, each by a picture of its own.
+enum class Lamp { disabled, unchecked, checked };
+
+// A bitmap button that shows a state. The mouse and the keyboard do nothing.
 class myBitmapButton : public zBitmapButton {
  public:
   myBitmapButton(zWindow* parent, int id, std::unique_ptr<zBitmap> bitmap);
 
+  // Draws nothing for the state that it shows already.
+  void setLamp(Lamp lamp);
+  Lamp lamp() const { return lamp_; }
+
   int mouseButtonDown(zMouseClickEvt* event) override;
   int mouseButtonUp(zMouseClickEvt* event) override;
+
+ private:
+  Lamp lamp_ = Lamp::unchecked;
 };

@@ -6,6 +6,9 @@
 
 struct PhyXferBuffer;
 
+// Link states of a board, as the driver numbers them.
+enum LinkState : std::uint16_t { linkActive = 0, linkInactive = 1, linkDown = 2 };
+
 struct AtmPhy {
   std::int32_t Framing = 0;  // 0 SONET, 1 SDH
   std::int32_t VPI = 0;
@@ -21,7 +24,7 @@ struct AtmPhy {
   std::int32_t RLAutoSwitch = 0;
 
   // As the driver last reported them.
-  std::uint16_t linkState = 0;   // 0 Active, 1 Inactive, 2 Down
+  std::uint16_t linkState = linkActive;
   std::int16_t activeLink = -1;  // the adapter whose partner or traffic this is, -1 none
 
   std::string boardText1 = "-";  // shown in the adapter table

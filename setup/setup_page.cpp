@@ -1,10 +1,7 @@
 #include "setup/setup_page.h"
 
-#include <cstdio>
-
 #include "atm/address.h"
 #include "framework/controls/bitmap_button.h"
-#include "framework/controls/tab_control.h"
 #include "framework/drawing/bitmap.h"
 #include "framework/resources/resources.h"
 #include "setup/field_formats.h"
@@ -47,16 +44,6 @@ void AddressFields::showWellKnown() {
 
 // The page.
 
-SetupPage::SetupPage(zNotebookDialog* notebook, zPageDef* def, const zStatusMessage* tips)
-    : zDialogPage(notebook, def, def->getStyle()), tips_(tips), toolTips_(this) {
-  toolTips_.setTipMessageTable(tips);
-}
-
-void SetupPage::add(zChildWin* control) {
-  controls_.push_back(control);
-  if (tips_.lookup(control->ctrlId())) toolTips_.add(control);
-}
-
 void SetupPage::makeAddress(AddressFields& address) {
   address.prefixField = make<zStringEdit>(148, &address.prefix, networkPrefixPicture, wholeDigits);
   address.esiSelectorField =
@@ -65,18 +52,4 @@ void SetupPage::makeAddress(AddressFields& address) {
 
 zBitmapButton* SetupPage::makeButton(int id, int bitmap) {
   return make<zBitmapButton>(id, std::make_unique<zBitmap>(zResId(bitmap)));
-}
-
-zTabCtrl* SetupPage::makeTabs(int id, int count, const char* nameFormat) {
-  auto* tabs = make<zTabCtrl>(id);
-  for (int number = 1; number <= count; ++number) {
-    char name[32];
-    std::snprintf(name, sizeof name, nameFormat, number);
-    tabs->add(number, name);
-  }
-  return tabs;
-}
-
-void SetupPage::showFields() {
-  for (zChildWin* control : controls_) control->setToDefault();
 }

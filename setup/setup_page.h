@@ -7,16 +7,12 @@
 
 #include <cstdint>
 #include <string>
-#include <utility>
-#include <vector>
 
+#include "applet/control_page.h"
 #include "framework/controls/combo_box.h"
-#include "framework/dialogs/dialog_page.h"
-#include "framework/dialogs/tool_tips.h"
 #include "framework/entry/string_edit.h"
 
 class zBitmapButton;
-class zTabCtrl;
 
 // A check box or a place in a list as the transfer buffers hold it.
 constexpr std::int16_t buffered(int value) {
@@ -50,33 +46,12 @@ struct AddressFields {
   void showWellKnown();
 };
 
-class SetupPage : public zDialogPage {
+class SetupPage : public ControlPage {
  protected:
-  // `tips` are the texts of the tool tips; null for none.
-  SetupPage(zNotebookDialog* notebook, zPageDef* def, const zStatusMessage* tips);
+  using ControlPage::ControlPage;
 
-  // A typed control over the template's control `id`, with its tool tip if there is one.
-  // `binding` is the rest of its constructor's arguments.
-  template <class Control, class... Binding>
-  Control* make(int id, Binding&&... binding) {
-    auto* control = new Control(this, id, std::forward<Binding>(binding)...);
-    add(control);
-    return control;
-  }
   // The fields 148 and 169, whose digits are set already.
   void makeAddress(AddressFields& address);
   // A button with the picture of a bitmap resource.
   zBitmapButton* makeButton(int id, int bitmap);
-  // A strip of the tabs 1 to `count`, named by a printf format of their number.
-  zTabCtrl* makeTabs(int id, int count, const char* nameFormat);
-
-  // Has all the controls made so far show the variables that they are bound to.
-  void showFields();
-
- private:
-  void add(zChildWin* control);
-
-  const zStatusMessageTable tips_;
-  zToolTipCtrl toolTips_;
-  std::vector<zChildWin*> controls_;
 };

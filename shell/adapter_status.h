@@ -12,9 +12,6 @@ constexpr zColor rowYellow{255, 255, 0};
 constexpr zColor rowRed{255, 0, 0};
 constexpr zColor rowGrey{192, 192, 192};
 
-// Link states of a board, as the driver numbers them.
-enum LinkState : std::uint16_t { linkActive = 0, linkInactive = 1, linkDown = 2 };
-
 // The columns of an adapter's row that change, its colour, and the sentence of the status line.
 struct AdapterStatus {
   const char* type = "";

@@ -7,13 +7,13 @@
 #include "shell/adapter_table.h"
 #include "shell/main_dialog.h"
 #include "shell/unavailable_dialog.h"
+#include "stats/stats_dialog.h"
 
 namespace {
 
 constexpr unsigned noticeStyle = 48;
 
-// Captions of the dialogs.
-constexpr int statisticsTitle = 538;
+// The caption of the dialog.
 constexpr int globalTitle = 539;
 
 }  // namespace
@@ -23,8 +23,7 @@ void DMainDlg::noticeBox(const char* boxCaption, const char* text) {
 }
 
 int DMainDlg::clickedStatsBTN(zNotifyEvt*) {
-  auto* dialog = new DUnavailableDlg(this, statisticsTitle);
-  dialog->deleteOnClose(1);
+  new DStatsDlg(this, static_cast<unsigned short>(currentAdapter));
   return 0;
 }
 
