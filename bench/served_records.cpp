@@ -196,11 +196,15 @@ ServedRecords& serveRecords() {
 
 namespace {
 
-template <class Rows, class Row>
-void appendColumns(std::vector<std::uint32_t*>& counters, Rows& table, int rows,
-                   std::initializer_list<std::uint32_t Row::*> columns) {
-  for (const auto column : columns) {
-    for (int row = 0; row < rows; ++row) counters.push_back(&(table.rows[row].*column));
+// Down the table, each time a column on from where the last row's was.
+template <class Rows, class Row, std::size_t count>
+void appendCounters(std::vector<std::uint32_t*>& counters, Rows& table, int rows,
+                    std::uint32_t Row::*const (&columns)[count]) {
+  for (std::size_t pass = 0; pass < count; ++pass) {
+    for (int row = 0; row < rows; ++row) {
+      const auto column = columns[(pass + static_cast<std::size_t>(row)) % count];
+      counters.push_back(&(table.rows[row].*column));
+    }
   }
 }
 
@@ -208,7 +212,7 @@ void appendColumns(std::vector<std::uint32_t*>& counters, Rows& table, int rows,
 
 std::vector<std::uint32_t*> signallingCounters(ServedRecords& records) {
   std::vector<std::uint32_t*> counters;
-  appendColumns(counters, records.circuits, 2, {&vc_tbl::counterIn, &vc_tbl::counterOut});
+  appendCounters(counters, records.circuits, 2, {&vc_tbl::counterIn, &vc_tbl::counterOut});
   return counters;
 }
 
@@ -221,16 +225,16 @@ std::vector<std::uint32_t*> aalCounters(ServedRecords& records) {
 
 std::vector<std::uint32_t*> lecCounters(ServedRecords& records) {
   std::vector<std::uint32_t*> counters;
-  appendColumns(counters, records.connections, records.connections.count,
-                {&lec_tbl_t::txPackets, &lec_tbl_t::rxPackets});
+  appendCounters(counters, records.connections, records.connections.count,
+                 {&lec_tbl_t::txPackets, &lec_tbl_t::rxPackets});
   return counters;
 }
 
 std::vector<std::uint32_t*> lesCounters(ServedRecords& records) {
   std::vector<std::uint32_t*> counters;
-  appendColumns(counters, records.clients, records.clients.count,
-                {&les_tbl::controlDirectTx, &les_tbl::controlDirectRx, &les_tbl::multicastSendTx,
-                 &les_tbl::multicastSendRx});
+  appendCounters(counters, records.clients, records.clients.count,
+                 {&les_tbl::controlDirectTx, &les_tbl::controlDirectRx, &les_tbl::multicastSendTx,
+                  &les_tbl::multicastSendRx});
   return counters;
 }
 
@@ -242,8 +246,8 @@ std::vector<std::uint32_t*> lecsCounters(ServedRecords& records) {
 
 std::vector<std::uint32_t*> ipCounters(ServedRecords& records) {
   std::vector<std::uint32_t*> counters;
-  appendColumns(counters, records.ipConnections, records.ipConnections.count,
-                {&ip_tbl::txPackets, &ip_tbl::rxPackets});
+  appendCounters(counters, records.ipConnections, records.ipConnections.count,
+                 {&ip_tbl::txPackets, &ip_tbl::rxPackets});
   // A word of each sum that a field shows.
   for (const int word : {20, 12, 22, 17}) counters.push_back(&records.ip.words[word]);
   return counters;

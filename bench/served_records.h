@@ -48,8 +48,8 @@ struct ServedRecords {
 // The records and their driver, which is at work in the working directory until the program ends.
 ServedRecords& serveRecords();
 
-// What the pages show of the records' counters, the counters of a table row by row: first those
-// of a column over all rows, then those of the next.
+// What the pages show of the records' counters. Those of a table come in such an order that one and
+// the next are no neighbours.
 std::vector<std::uint32_t*> signallingCounters(ServedRecords& records);
 std::vector<std::uint32_t*> aalCounters(ServedRecords& records);
 std::vector<std::uint32_t*> lecCounters(ServedRecords& records);

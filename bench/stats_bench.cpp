@@ -5,8 +5,7 @@
 // Each row tells of a tick what was asked of the driver, `driver`, and of the server: `requests`,
 // and `waits` for a reply. What the measuring itself sends is left out of the counts, and its time
 // stands on both sides of `ratio`, which is the time of the ticks to that of the bare exchanges;
-// the two take turns. The counters that change lie as far apart as they can: in a column of a
-// table first, and all of them are seen.
+// the two take turns. The counters of a table that change are no neighbours, and all are seen.
 #include <Xm/Xm.h>
 #include <benchmark/benchmark.h>
 
@@ -176,8 +175,8 @@ void openNotebook(zWindow* parent) {
   advSettings = 1;
   notebook = new DStatsDlg(parent, 0);
   if (!DaiOpenSuccess || !x_driver::show(*notebook)) std::abort();
-  XtVaSetValues(notebook->shell(), XmNwidth, notebookSize.width, XmNheight, notebookSize.height,
-                nullptr);
+  XResizeWindow(app->display(), XtWindow(notebook->shell()), notebookSize.width,
+                notebookSize.height);
   x_driver::settle();
   bareSession = connectToNode();
 }
