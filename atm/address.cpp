@@ -23,23 +23,40 @@ constexpr int prefixDigits = 2 * networkPrefixBytes;
 constexpr int esiDigits = 2 * esiBytes;
 constexpr int addressDigits = 2 * atmAddressBytes;
 
+// The longest form of an address: two digits and a separator for each byte.
+constexpr int longestForm = 3 * atmAddressBytes;
+
+// Whole tables of addresses are written several times a second, so these use no streams. Both
+// return the end of what they have written.
+
 // Pairs of characters joined by ':'.
-void writePairs(std::ostream& out, const char* digits, int pairs) {
+char* putPairs(char* out, const char* digits, int pairs) {
   for (int i = 0; i < pairs; ++i) {
-    if (i > 0) out << ':';
-    out << digits[2 * i] << digits[2 * i + 1];
+    if (i > 0) *out++ = ':';
+    *out++ = digits[2 * i];
+    *out++ = digits[2 * i + 1];
   }
+  return out;
 }
 
 // Bytes as two hexadecimal digits each, with `separator` between them unless it is NUL.
-void writeHexBytes(std::ostream& out, const unsigned char* bytes, int count, char separator) {
-  out.setf(std::ios_base::right, std::ios_base::adjustfield);
-  out << std::hex << std::setfill('0');
+char* putHexBytes(char* out, const unsigned char* bytes, int count, char separator) {
+  constexpr char digits[] = "0123456789abcdef";
   for (int i = 0; i < count; ++i) {
-    if (i > 0 && separator != '\0') out << separator;
-    out << std::setw(2) << unsigned{bytes[i]};
+    if (i > 0 && separator != '\0') *out++ = separator;
+    *out++ = digits[bytes[i] >> 4];
+    *out++ = digits[bytes[i] & 15];
   }
+  return out;
+}
+
+// Leaves the stream as a formatted number would: aligned to the right, decimal, filled with blanks.
+void writeHexBytes(std::ostream& out, const unsigned char* bytes, int count) {
+  char text[longestForm];
+  out.write(text, putHexBytes(text, bytes, count, '\0') - text);
+  out.setf(std::ios_base::right, std::ios_base::adjustfield);
   out << std::dec << std::setfill(' ');
+  out.width(0);
 }
 
 // `count` bytes of two characters each. A byte that the stream ends before keeps its value.
@@ -111,9 +128,7 @@ char* atmAddress::GetFNetworkPrefix() const {
 }
 
 char* atmAddress::GetFNetworkPrefix(char* out) const {
-  BoundedStream stream(out, addressTextBytes);
-  writePairs(stream, text, networkPrefixBytes);
-  stream.terminate();
+  *putPairs(out, text, networkPrefixBytes) = '\0';
   return out;
 }
 
@@ -122,11 +137,9 @@ char* atmAddress::GetFESISelector() const {
 }
 
 char* atmAddress::GetFESISelector(char* out) const {
-  BoundedStream stream(out, addressTextBytes);
-  writePairs(stream, text + prefixDigits, esiBytes);
-  stream << '-';
-  writePairs(stream, text + prefixDigits + esiDigits, 1);
-  stream.terminate();
+  char* end = putPairs(out, text + prefixDigits, esiBytes);
+  *end++ = '-';
+  *putPairs(end, text + prefixDigits + esiDigits, 1) = '\0';
   return out;
 }
 
@@ -139,14 +152,12 @@ int atmAddress::toHex(unsigned char* out, int count) const {
 }
 
 void atmAddress::fromHex(const unsigned char* in, int count) {
-  BoundedStream stream(text, sizeof text);
-  writeHexBytes(stream, in, std::clamp(count, 0, atmAddressBytes), '\0');
-  stream.terminate();
+  *putHexBytes(text, in, std::clamp(count, 0, atmAddressBytes), '\0') = '\0';
 }
 
 std::ostream& operator<<(std::ostream& out, const atmAddress& address) {
-  writePairs(out, address.text, atmAddressBytes);
-  return out;
+  char text[longestForm];
+  return out.write(text, putPairs(text, address.text, atmAddressBytes) - text);
 }
 
 macAddress& macAddress::operator=(const char* source) {
@@ -161,9 +172,7 @@ char* macAddress::GetFMacAddress() const {
 }
 
 char* macAddress::GetFMacAddress(char* out) const {
-  BoundedStream stream(out, addressTextBytes);
-  writeHexBytes(stream, bytes, esiBytes, ':');
-  stream.terminate();
+  *putHexBytes(out, bytes, esiBytes, ':') = '\0';
   return out;
 }
 
@@ -177,7 +186,7 @@ unsigned macAddress::hash() const {
 }
 
 std::ostream& operator<<(std::ostream& out, const macAddress& address) {
-  writeHexBytes(out, address.bytes, esiBytes, '\0');
+  writeHexBytes(out, address.bytes, esiBytes);
   return out;
 }
 
@@ -206,11 +215,9 @@ char* esiSelector::GetF2EsiSelector() const {
 }
 
 char* esiSelector::GetF2EsiSelector(char* out) const {
-  BoundedStream stream(out, addressTextBytes);
-  writeHexBytes(stream, bytes, esiBytes, ':');
-  stream << '-';
-  writeHexBytes(stream, bytes + esiBytes, 1, '\0');
-  stream.terminate();
+  char* end = putHexBytes(out, bytes, esiBytes, ':');
+  *end++ = '-';
+  *putHexBytes(end, bytes + esiBytes, 1, '\0') = '\0';
   return out;
 }
 
@@ -226,9 +233,9 @@ char* esiSelector::GetFEsiSelector(char* out) const {
 }
 
 std::ostream& operator<<(std::ostream& out, const esiSelector& address) {
-  writeHexBytes(out, address.bytes, esiBytes, '\0');
+  writeHexBytes(out, address.bytes, esiBytes);
   out << '/';
-  writeHexBytes(out, address.bytes + esiBytes, 1, '\0');
+  writeHexBytes(out, address.bytes + esiBytes, 1);
   return out;
 }
 

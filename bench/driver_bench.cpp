@@ -4,20 +4,13 @@
 // one in the build folder is.
 
 #include <benchmark/benchmark.h>
-#include <sched.h>
-#include <signal.h>
-#include <sys/mman.h>
-#include <sys/prctl.h>
 #include <sys/socket.h>
-#include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <functional>
 #include <new>
@@ -27,6 +20,7 @@
 #include "applet/run_state.h"
 #include "atm/devices.h"
 #include "atm/transfer_buffers.h"
+#include "bench/driver_child.h"
 #include "driver/control_table.h"
 #include "driver/queries.h"
 #include "driver/session.h"
@@ -62,26 +56,6 @@ constexpr std::size_t pageMessage =
 constexpr std::size_t countMessage = sizeof(WireHead) + plainDataOffset;
 constexpr std::size_t frameMessage = sizeof(WireHead) + plainDataOffset + sizeof(board_state);
 
-// A process of the benchmark's own, which ends with it.
-class Child {
- public:
-  explicit Child(const std::function<void()>& work) : pid_(fork()) {
-    if (pid_ != 0) return;
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    work();
-    _exit(1);
-  }
-  ~Child() {
-    kill(pid_, SIGKILL);
-    waitpid(pid_, nullptr, 0);
-  }
-  Child(const Child&) = delete;
-  Child& operator=(const Child&) = delete;
-
- private:
-  pid_t pid_;
-};
-
 void echo(int socket) {
   char message[65536];
   for (ssize_t got; (got = recv(socket, message, sizeof message, 0)) > 0;)
@@ -92,43 +66,13 @@ void echo(int socket) {
 std::atomic<std::uint64_t>* served = nullptr;
 
 // The least a driver can be: it counts tableRows rows in any table and serves them in pages.
-void answerFrame(req_param_t& head) {
+void answerFrame(req_param_t& head, std::uint8_t*) {
+  served->fetch_add(1, std::memory_order_relaxed);
   head.Resp = 0;
   if (head.Type == serviceNRows) head.NRow = tableRows;
   if (head.Type != serviceTable) return;
   head.NRow = static_cast<std::uint16_t>(std::clamp(tableRows + 1 - head.RowM, 0, pageRows));
   head.RowM = static_cast<std::uint16_t>(head.RowM + head.NRow);
-}
-
-void serveTables(int listener) {
-  char message[sizeof(WireHead) + wireMaxBody];
-  for (int session; (session = accept(listener, nullptr, nullptr)) >= 0; close(session)) {
-    for (ssize_t got; (got = recv(session, message, sizeof message, 0)) > 0;) {
-      WireHead wire;
-      req_param_t head;
-      std::memcpy(&wire, message, sizeof wire);
-      std::memcpy(&head, message + sizeof wire, sizeof head);
-      wire.code = wire.limit = 0;
-      answerFrame(head);
-      std::memcpy(message, &wire, sizeof wire);
-      if (wire.kind == wireExchange) {
-        std::memcpy(message + sizeof wire, &head, sizeof head);
-        served->fetch_add(1, std::memory_order_relaxed);
-      }
-      send(session, message, static_cast<std::size_t>(got), MSG_NOSIGNAL);
-    }
-  }
-}
-
-int listenOnNode() {
-  sockaddr_un address{AF_UNIX, "./li"};
-  const int listener = socket(AF_UNIX, SOCK_SEQPACKET, 0);
-  if (bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
-      listen(listener, 8) != 0) {
-    std::perror("./li");
-    std::exit(1);
-  }
-  return listener;
 }
 
 // Opens the device in the working directory, which its driver may still have to make.
@@ -154,15 +98,10 @@ void frameToDriver(benchmark::State& state) {
 }
 BENCHMARK(frameToDriver);
 
-bool roundTrip(std::vector<char>& message, std::size_t bytes) {
-  return send(echoSocket, message.data(), bytes, MSG_NOSIGNAL) == static_cast<ssize_t>(bytes) &&
-         recv(echoSocket, message.data(), bytes, 0) == static_cast<ssize_t>(bytes);
-}
-
 void bareFrame(benchmark::State& state) {
-  std::vector<char> message(frameMessage);
+  std::vector<std::uint8_t> message(frameMessage);
   for (auto _ : state) {
-    if (!roundTrip(message, frameMessage)) state.SkipWithError("no echo");
+    if (!roundTrip(echoSocket, message.data(), frameMessage)) state.SkipWithError("no echo");
   }
 }
 BENCHMARK(bareFrame);
@@ -183,10 +122,11 @@ void entireLecTable(benchmark::State& state) {
 BENCHMARK(entireLecTable)->ArgName("new")->Arg(0)->Arg(1);
 
 void bareTableRoundTrips(benchmark::State& state) {
-  std::vector<char> message(pageMessage);
+  std::vector<std::uint8_t> message(pageMessage);
   for (auto _ : state) {
-    bool ok = roundTrip(message, countMessage);
-    for (int page = 0; page < pagesOfTable; ++page) ok = roundTrip(message, pageMessage) && ok;
+    bool ok = roundTrip(echoSocket, message.data(), countMessage);
+    for (int page = 0; page < pagesOfTable; ++page)
+      ok = roundTrip(echoSocket, message.data(), pageMessage) && ok;
     if (!ok) state.SkipWithError("no echo");
   }
 }
@@ -264,26 +204,18 @@ void applyFullAdapter(benchmark::State& state) {
 BENCHMARK(applyFullAdapter);
 
 void bareApplyRoundTrips(benchmark::State& state) {
-  std::vector<char> message(sizeof(WireHead) + signallingFrameBytes);
+  std::vector<std::uint8_t> message(sizeof(WireHead) + signallingFrameBytes);
   for (auto _ : state) {
     bool ok = true;
     for (const auto& [control, times] : fullApply) {
       const std::size_t bytes = sizeof(WireHead) + formOf(control).frameBytes;
-      for (std::size_t i = 0; i < times; ++i) ok = roundTrip(message, bytes) && ok;
+      for (std::size_t i = 0; i < times; ++i)
+        ok = roundTrip(echoSocket, message.data(), bytes) && ok;
     }
     if (!ok) state.SkipWithError("no echo");
   }
 }
 BENCHMARK(bareApplyRoundTrips);
-
-// Both ends of an exchange take turns, so one processor does; it keeps the cost of waking another,
-// which differs by the moment, out of the figures.
-void stayOnOneProcessor() {
-  cpu_set_t one;
-  CPU_ZERO(&one);
-  CPU_SET(0, &one);
-  sched_setaffinity(0, sizeof one, &one);
-}
 
 std::string lisimPath() {
   const char* path = std::getenv("LISIM");
@@ -304,13 +236,10 @@ int main(int argc, char** argv) {
   close(ends[1]);
   echoSocket = ends[0];
 
-  void* shared =
-      mmap(nullptr, sizeof *served, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-  if (shared == MAP_FAILED) return 1;
-  served = new (shared) std::atomic<std::uint64_t>(0);
+  served = new (sharedMemory(sizeof *served)) std::atomic<std::uint64_t>(0);
   const ScratchDirectory tableDirectory;
   const int tableListener = listenOnNode();
-  const Child serving([&] { serveTables(tableListener); });
+  const Child serving([&] { serveSessions(tableListener, answerFrame); });
   tableSession = openSession();
 
   const ScratchDirectory simulatorDirectory;
@@ -325,7 +254,7 @@ int main(int argc, char** argv) {
   // The last one made is the device that changes are applied to.
   const ScratchDirectory applyDirectory;
   const int applyListener = listenOnNode();
-  const Child applying([&] { serveTables(applyListener); });
+  const Child applying([&] { serveSessions(applyListener, answerFrame); });
 
   benchmark::RunSpecifiedBenchmarks();
   dai_close(0, simulatorSession);

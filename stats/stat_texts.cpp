@@ -1,25 +1,16 @@
 #include "stats/stat_texts.h"
 
-#include <algorithm>
+#include <cstdio>
 #include <cstring>
-#include <iomanip>
 
 #include "applet/run_state.h"
 #include "atm/address.h"
 #include "atm/devices.h"
-#include "foundation/bounded_stream.h"
 
 namespace {
 
 constexpr int vpiWidth = 3;
 constexpr int vciWidth = 4;
-
-template <class Number>
-const char* numberText(Number number) {
-  BoundedStream text(ioBuffer, sizeof ioBuffer);
-  text << number;
-  return text.terminate();
-}
 
 atmAddress addressOf(const std::uint8_t* bytes) {
   atmAddress address = dfltAtmAddress;
@@ -30,23 +21,24 @@ atmAddress addressOf(const std::uint8_t* bytes) {
 }  // namespace
 
 const char* countText(std::uint32_t count) {
-  return numberText(count);
+  std::snprintf(ioBuffer, sizeof ioBuffer, "%u", count);
+  return ioBuffer;
 }
 
 const char* signedCountText(std::uint32_t count) {
-  return numberText(static_cast<std::int32_t>(count));
+  std::snprintf(ioBuffer, sizeof ioBuffer, "%d", static_cast<std::int32_t>(count));
+  return ioBuffer;
 }
 
 const char* circuitText(short link, std::uint16_t vci) {
-  BoundedStream text(ioBuffer, sizeof ioBuffer);
-  text << std::setw(vpiWidth) << atmDevices.phy[link].VPI << '/' << std::setw(vciWidth) << vci;
-  return text.terminate();
+  std::snprintf(ioBuffer, sizeof ioBuffer, "%*d/%*d", vpiWidth, int{atmDevices.phy[link].VPI},
+                vciWidth, int{vci});
+  return ioBuffer;
 }
 
 const char* nameText(const char (&name)[elanNameBytes]) {
-  BoundedStream text(ioBuffer, sizeof ioBuffer);
-  text.write(name, std::find(name, name + sizeof name, '\0') - name);
-  return text.terminate();
+  std::snprintf(ioBuffer, sizeof ioBuffer, "%.*s", int{sizeof name}, name);
+  return ioBuffer;
 }
 
 const char* prefixText(const std::uint8_t* address) {

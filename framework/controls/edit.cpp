@@ -149,8 +149,11 @@ std::string zEditBase::getText() const {
   return textWidget() ? ziTextOf(textWidget()) : "";
 }
 
+// A text that can only be read shows its start, and does not make the field the one that the next
+// paste goes to, as placing its caret would.
 void zEditBase::doText(const char* value) {
-  setText(value, settingText);
+  const bool readOnly = (styleValue() & zEditStyle::readOnly) != 0;
+  setText(value, settingText, readOnly ? std::optional(0) : std::nullopt);
 }
 
 // A handler may set a text while a change is offered: that change is void then.

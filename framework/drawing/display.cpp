@@ -127,6 +127,12 @@ zPixmapDisplay::~zPixmapDisplay() {
   if (drawable()) XFreePixmap(app->display(), drawable());
 }
 
+void zPixmapDisplay::copyTo(Drawable target, const zRect& part) const {
+  if (!gc_ || part.isEmpty()) return;
+  XCopyArea(app->display(), drawable(), target, gc_, part.left, part.top, extent(part.width()),
+            extent(part.height()), part.left, part.top);
+}
+
 Pixmap zPixmapDisplay::release() {
   const Pixmap pixmap = drawable();
   setDrawable(0);

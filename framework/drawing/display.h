@@ -54,6 +54,8 @@ class zDisplay {
   void setDrawable(Drawable drawable) { drawable_ = drawable; }
 
  private:
+  friend class zPixmapDisplay;
+
   Drawable drawable_ = 0;
   GC gc_ = nullptr;
   int locks_ = 0;
@@ -78,6 +80,8 @@ class zPixmapDisplay : public zDisplay {
   explicit zPixmapDisplay(const zDimension& size);
   ~zPixmapDisplay() override;
   const zDimension& size() const { return size_; }
+  // Copies a part of it to the same place of a drawable of the same depth.
+  void copyTo(Drawable target, const zRect& part) const;
   // Gives the pixmap away; nothing can be drawn any more.
   Pixmap release();
 

@@ -77,7 +77,7 @@ void zTable::listenToModel(zTableModel* model) {
 }
 
 int zTable::updateProc() {
-  setCellsDirty(node_->region());
+  for (const zTableRegion& region : node_->regions()) setCellsDirty(region);
   return 0;
 }
 

@@ -34,12 +34,8 @@ void zTable::paint(const zRect& area) {
   const zRect seen = area.intersection(all);
   if (seen.isEmpty() || !XtIsRealized(getWidget())) return;
   if (std::exchange(drawnEnabled_, isEnabled()) != isEnabled()) image_.invalidate(all);
-  const Drawable image =
-      image_.bringUpToDate(this, area_, [this](zDrawEvt* event) { draw(event); });
-  zWinDisplay screen(this);
-  screen.lock();
-  screen.copy(image, seen, seen.pos());
-  screen.unlock();
+  image_.bringUpToDate(this, area_, [this](zDrawEvt* event) { draw(event); });
+  image_.show(XtWindow(getWidget()), seen);
 }
 
 void zTable::draw(zDrawEvt* event) {

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::size_t mostParts = 8;  // with more of them one rectangle around all is drawn
+constexpr std::size_t mostParts = 64;  // with more of them one rectangle around all is drawn
 
 bool holds(const zRect& outer, const zRect& inner) {
   return outer.intersection(inner) == inner;
@@ -47,8 +47,8 @@ void ziTableImage::shift(const zRect& area, const zPoint& by) {
               part.bottom});
 }
 
-Drawable ziTableImage::bringUpToDate(zWindow* window, const zDimension& size,
-                                     const std::function<void(zDrawEvt*)>& draw) {
+void ziTableImage::bringUpToDate(zWindow* window, const zDimension& size,
+                                 const std::function<void(zDrawEvt*)>& draw) {
   if (!image_ || image_->size() != size) {
     image_ = std::make_unique<zPixmapDisplay>(size);
     image_->lock();
@@ -62,5 +62,9 @@ Drawable ziTableImage::bringUpToDate(zWindow* window, const zDimension& size,
     event.window = window;
     draw(&event);
   }
-  return image_->drawable();
+}
+
+void ziTableImage::show(Window target, const zRect& part) const {
+  image_->clearClip();
+  image_->copyTo(target, part);
 }

@@ -14,10 +14,12 @@ class ziTableImage {
   void invalidate(const zRect& area);
   // Moves what `area` holds by so many pixels; what comes into view there is out of date.
   void shift(const zRect& area, const zPoint& by);
-  // The picture for a window's drawing area of this size, after `draw` has been called for every
-  // part that was out of date. Good until the next call.
-  Drawable bringUpToDate(zWindow* window, const zDimension& size,
-                         const std::function<void(zDrawEvt*)>& draw);
+  // Makes it the picture for a window's drawing area of this size: calls `draw` for every part that
+  // is out of date.
+  void bringUpToDate(zWindow* window, const zDimension& size,
+                     const std::function<void(zDrawEvt*)>& draw);
+  // Copies a part of it to the same place of a window, once it is up to date.
+  void show(Window target, const zRect& part) const;
 
  private:
   zRect all() const { return {zPoint{}, image_->size()}; }

@@ -4,6 +4,24 @@
 
 #include "framework/table/table_attr.h"
 
+namespace {
+
+constexpr std::size_t mostRegions = 1000;  // noted apart; the last of them is around all the rest
+
+// Whether the region around both has no other cell, however far each reaches.
+bool fitTogether(const zTableRegion& a, const zTableRegion& b) {
+  const zTableRegion both = a.unionWith(b);
+  if (both == a || both == b) return true;
+  const auto meet = [](unsigned long end, unsigned long start) { return start <= end + 1; };
+  if (a.topLeft.x == b.topLeft.x && a.bottomRight.x == b.bottomRight.x) {
+    return meet(a.bottomRight.y, b.topLeft.y) && meet(b.bottomRight.y, a.topLeft.y);
+  }
+  return a.topLeft.y == b.topLeft.y && a.bottomRight.y == b.bottomRight.y &&
+         meet(a.bottomRight.x, b.topLeft.x) && meet(b.bottomRight.x, a.topLeft.x);
+}
+
+}  // namespace
+
 zTableRegion zTableRegion::unionWith(const zTableRegion& o) const {
   if (isEmpty()) return o;
   if (o.isEmpty()) return *this;
@@ -77,9 +95,21 @@ void zTableModel::detachView(const zEvH* view) {
   });
 }
 
+// A refresh goes through the cells row by row, so that it is the latest regions which may grow: a
+// cell joins the one on its left, and the row that comes about the one above.
+void ziTableViewNode::note(zTableRegion region) {
+  if (region.isEmpty()) return;
+  while (!pending_.empty() &&
+         (pending_.size() == mostRegions || fitTogether(pending_.back(), region))) {
+    region = region.unionWith(pending_.back());
+    pending_.pop_back();
+  }
+  pending_.push_back(region);
+}
+
 void ziTableViewNode::callBack() {
-  if (!model_ || (pending_.isEmpty() && !structureChanged_)) return;
-  region_ = std::exchange(pending_, zTableRegion());
+  if (!model_ || (pending_.empty() && !structureChanged_)) return;
+  regions_ = std::exchange(pending_, {});
   const bool structure = std::exchange(structureChanged_, false);
   const zAction<int>& callback = structure ? reset_ : update_;
   if (callback) callback();
@@ -107,7 +137,7 @@ void zTableModel::updateView(const zEvH* view) {
 }
 
 void zTableModel::markChanged(const zTableRegion& region) {
-  for (const auto& node : views_) node->pending_ = node->pending_.unionWith(region);
+  for (const auto& node : views_) node->note(region);
 }
 
 void zTableModel::changeDimension(unsigned long cols, unsigned long rows) {

@@ -80,8 +80,9 @@ class ziTableViewNode {
  public:
   // Null once the model is gone or the view is detached.
   zTableModel* model() const { return model_; }
-  // For the callbacks: what has changed since the last call.
-  const zTableRegion& region() const { return region_; }
+  // For the callbacks: what has changed since the last call. Neighbours that changed one after the
+  // other are one region.
+  const std::vector<zTableRegion>& regions() const { return regions_; }
 
  private:
   friend class zTableModel;
@@ -90,10 +91,11 @@ class ziTableViewNode {
   const zEvH* view_ = nullptr;
   zAction<int> update_;
   zAction<int> reset_;
+  void note(zTableRegion region);
   void callBack();
 
-  zTableRegion region_;
-  zTableRegion pending_;
+  std::vector<zTableRegion> regions_;
+  std::vector<zTableRegion> pending_;
   bool structureChanged_ = false;
 };
 

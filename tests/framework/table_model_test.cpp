@@ -94,12 +94,13 @@ TEST(TableModel, ManyChangesAreOneUpdate) {
       model.addAttr(std::make_unique<zTableReadOnlyAttr>(zTableRegion({3, 3}, {4, 5})));
   model.updateOtherViews(&other);
   EXPECT_EQ(view.updates, 1);
-  EXPECT_EQ(view.node->region(), zTableRegion({2, 2}, {4, 5}));
+  using Regions = std::vector<zTableRegion>;
+  EXPECT_EQ(view.node->regions(), (Regions{zTableRegion({2, 2}), {{3, 3}, {4, 5}}}));
   EXPECT_EQ(other.updates, 0);
   model.removeAttr(attr);
   model.removeAttr(attr);
   model.updateAllViews();
-  EXPECT_EQ(view.node->region(), zTableRegion({3, 3}, {4, 5}));
+  EXPECT_EQ(view.node->regions(), (Regions{{{3, 3}, {4, 5}}}));
   EXPECT_EQ(other.updates, 1);
   model.setDimension(5, 5);
   EXPECT_EQ(view.resets, 0);
@@ -109,6 +110,33 @@ TEST(TableModel, ManyChangesAreOneUpdate) {
   model.setDimension(5, 1);
   EXPECT_EQ(other.resets, 1);
   EXPECT_EQ(other.node->model(), nullptr);
+}
+
+TEST(TableModel, NeighboursThatChangeAreOneRegion) {
+  using Regions = std::vector<zTableRegion>;
+  const struct {
+    std::vector<zTableLoc> changed;
+    Regions regions;
+  } cases[] = {
+      {{{1, 1}, {5, 5}}, {{{1, 1}, {1, 1}}, {{5, 5}, {5, 5}}}},
+      {{{2, 1}, {2, 1}, {3, 1}, {1, 1}}, {{{1, 1}, {3, 1}}}},
+      {{{3, 1}, {4, 1}, {3, 2}, {4, 2}, {3, 3}, {4, 3}}, {{{3, 1}, {4, 3}}}},
+      {{{3, 1}, {4, 1}, {3, 2}, {5, 2}}, {{{3, 1}, {4, 1}}, {{3, 2}, {3, 2}}, {{5, 2}, {5, 2}}}},
+      {{{1, 1}, {2, 2}, {1, 2}, {2, 3}}, {{{1, 1}, {1, 1}}, {{1, 2}, {2, 2}}, {{2, 3}, {2, 3}}}},
+  };
+  for (const auto& c : cases) {
+    zTableSmallModel model(5, 5);
+    View view(model);
+    for (const zTableLoc& at : c.changed) model.textToCell(at, "x");
+    model.updateAllViews();
+    EXPECT_EQ(view.node->regions(), c.regions);
+  }
+  zTableSmallModel model(2, 3000);  // so many apart that the last are known by what is around them
+  View view(model);
+  for (unsigned long row = 1; row <= 3000; row += 2) model.textToCell({row % 4 / 2 + 1, row}, "x");
+  model.updateAllViews();
+  EXPECT_EQ(view.node->regions().size(), 1000U);
+  EXPECT_EQ(view.node->regions().back(), zTableRegion({1, 1999}, {2, 2999}));
 }
 
 // Puts a dollar in front, and refuses a text that has one.

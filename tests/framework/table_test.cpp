@@ -284,6 +284,10 @@ TEST_F(HugeTableTest, DrawsNothingTwice) {
   model.addAttr(std::make_unique<zTableBackColorAttr>(red, zTableRegion({2, 3})));
   model.updateAllViews();
   EXPECT_EQ(table->drawnNow(), Parts{table->cellRect({2, 3})});
+  model.textToCell({1, 1}, "seen");
+  model.textToCell({3, 5}, "seen");
+  model.updateAllViews();
+  EXPECT_EQ(table->drawnNow(), (Parts{table->cellRect({1, 1}), table->cellRect({3, 5})}));
 
   model.addAttr(std::make_unique<zTableBackColorAttr>(red, zTableRegion({1, 8})));
   model.updateAllViews();
