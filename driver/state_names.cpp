@@ -1,6 +1,9 @@
 #include "driver/state_names.h"
 
 #include <cstddef>
+#include <cstdint>
+
+#include "driver/value_words.h"
 
 namespace {
 
@@ -25,19 +28,17 @@ const char* nameOf(const StateName (&names)[count], int value) {
   return lookUp(names, value, "XXXX");
 }
 
+const char* nameOf(const ValueWords& names, int value) {
+  const auto place = static_cast<std::uint32_t>(value) - names.first;
+  return place < names.words.size() ? names.words[place] : "XXXX";
+}
+
 template <std::size_t count>
 unsigned colorOf(const StateColor (&colors)[count], int value) {
   return lookUp(colors, value, layerInTransition);
 }
 
 constexpr int notConfigured = 255;
-
-constexpr StateName mtuTypes[] = {{1, "1516"}, {2, "4544"}, {3, "9234"}, {4, "18190"}};
-
-constexpr StateName elanTypes[] = {{1, "Ethernet"}, {2, "Token Ring"}};
-
-constexpr StateName busStates[] = {
-    {0, "Idle"}, {1, "Signalling A"}, {2, "Signalling B"}, {3, "Active"}};
 
 constexpr StateName saalStates[] = {
     {0, "SSCOP Idle"},
@@ -84,13 +85,13 @@ constexpr StateColor sigColors[] = {{notConfigured, layerNotRunning}, {1, layerU
 }  // namespace
 
 const char* MtuTypeToString(short type) {
-  return nameOf(mtuTypes, type);
+  return nameOf(words::frameSizes, type);
 }
 const char* ElanTypeToString(short type) {
-  return nameOf(elanTypes, type);
+  return nameOf(words::serverElanTypes, type);
 }
 const char* BusStateToString(short state) {
-  return nameOf(busStates, state);
+  return nameOf(words::busStates, state);
 }
 const char* SaalStateToString(unsigned char state) {
   return nameOf(saalStates, state);

@@ -5,16 +5,13 @@
 #include "framework/core/app.h"
 #include "framework/dialogs/message.h"
 #include "shell/adapter_table.h"
+#include "shell/global_dialog.h"
 #include "shell/main_dialog.h"
-#include "shell/unavailable_dialog.h"
 #include "stats/stats_dialog.h"
 
 namespace {
 
 constexpr unsigned noticeStyle = 48;
-
-// The caption of the dialog.
-constexpr int globalTitle = 539;
 
 }  // namespace
 
@@ -29,7 +26,7 @@ int DMainDlg::clickedStatsBTN(zNotifyEvt*) {
 
 int DMainDlg::clickedGlobalBTN(zNotifyEvt*) {
   disableTimer();
-  DUnavailableDlg(this, globalTitle).modal();
+  DGlobalDlg(this).modal();
   enableTimer();
   return 0;
 }

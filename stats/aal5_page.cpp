@@ -107,7 +107,7 @@ short DStatsDlgAAL5PG::UpdateDisplay(short link, short, bool clear) {
 // The line interface.
 
 void DStatsDlgAAL5PG::showLine(const suni_stats& line) {
-  if (!mediumKnown_) showMedium(line.medium);
+  if (!mediaKnown_) showMedium(line.medium);
   if (line.medium == medium25) {
     showLinkUp(line.linkUp);
     return;
@@ -121,7 +121,7 @@ void DStatsDlgAAL5PG::showLine(const suni_stats& line) {
 }
 
 void DStatsDlgAAL5PG::showMedium(std::uint32_t medium) {
-  mediumKnown_ = true;
+  mediaKnown_ = true;
   lineBox_->text(titleOf(medium));
   if (medium != medium25) return;
   hideControls(this, {226, 227, 228, 229, 230, 220, 221, 222, 223, 224});
@@ -168,5 +168,5 @@ void DStatsDlgAAL5PG::showCounters(bool clear) {
 
 // Until the line interface tells its medium, the box is titled by what is configured.
 void DStatsDlgAAL5PG::showFraming(short link) {
-  if (!mediumKnown_) lineBox_->text(atmDevices.phy[link].Framing ? "SDH" : "Sonet");
+  if (!mediaKnown_) lineBox_->text(atmDevices.phy[link].Framing ? "SDH" : "Sonet");
 }

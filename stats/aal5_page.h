@@ -40,7 +40,7 @@ class DStatsDlgAAL5PG : public StatsPage {
 
   std::unique_ptr<aalInfo> aalQuery_;
   bool suniEnabled_ = true;  // the line interface answers, as far as is known
-  bool mediumKnown_ = false;
+  bool mediaKnown_ = false;
   std::array<Alarm, alarms> alarms_;
   zGroupBox* lineBox_ = nullptr;
   unsigned shownAdapter_ = 99;  // none

@@ -15,6 +15,7 @@ struct Ending {
 };
 
 int depth = 0;
+int eventsFirst = 0;          // so many events are to be handled before a timer is
 std::vector<Ending> waiting;  // in the order in which they were given up
 std::vector<Widget> going;    // the toolkit destroys them at the end of an event
 
@@ -48,8 +49,14 @@ void destroyDue() {
 }  // namespace
 
 void ziProcessEvent() {
-  XtAppProcessEvent(app->context(), XtIMAll);
+  const bool eventFirst = eventsFirst > 0 && XEventsQueued(app->display(), QueuedAlready) > 0;
+  eventsFirst = eventFirst ? eventsFirst - 1 : 0;
+  XtAppProcessEvent(app->context(), eventFirst ? XtIMXEvent : XtIMAll);
   destroyDue();
+}
+
+void ziLetEventsCatchUp() {
+  eventsFirst = XEventsQueued(app->display(), QueuedAfterReading);
 }
 
 void ziRunLoop(const std::function<bool()>& goesOn) {

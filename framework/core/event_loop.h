@@ -8,6 +8,11 @@
 // Waits for the application's next event and handles it: a step of the main loop.
 void ziProcessEvent();
 
+// For a timer that has run: what the user did meanwhile comes before the next timer. The toolkit
+// takes timers that are due first, so that handlers slower than their periods would keep it from
+// ever coming to the events.
+void ziLetEventsCatchUp();
+
 // Handles events while `goesOn`: a loop inside the main one, in a handler or before it begins.
 void ziRunLoop(const std::function<bool()>& goesOn);
 

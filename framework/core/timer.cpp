@@ -1,6 +1,7 @@
 #include "framework/core/timer.h"
 
 #include "framework/core/app.h"
+#include "framework/core/event_loop.h"
 
 zTimer::zTimer(zAction<void> action, unsigned long milliseconds, bool repeat)
     : action_(action), repeat_(repeat), period_(milliseconds) {
@@ -51,4 +52,5 @@ void zTimerDev::tproc(zTimer* timer) {
   }
   const zAction<void> action = timer->action_;  // the call may delete the timer
   action();
+  ziLetEventsCatchUp();
 }

@@ -48,12 +48,6 @@ constexpr zControlRecord mainControls[] = {
     end,
 };
 
-constexpr zControlRecord unavailableControls[] = {
-    {zAtomStatic, nullptr, 100, nullptr, label | 1, 7, 12, 186, 10},
-    {zAtomButton, nullptr, 1, "OK", tab | 1, 75, 32, 50, 15},
-    end,
-};
-
 // Setup: the physical layer. What is never shown stands at the end.
 constexpr zControlRecord physicalControls[] = {
     {0, "zGroupBox3dClass", 113, "Framing", groupBox, 7, 7, 131, 31},
@@ -429,6 +423,39 @@ constexpr zControlRecord ip1577StatsControls[] = {
     end,
 };
 
+// What holds for the whole run.
+constexpr zControlRecord globalAppControls[] = {
+    {0, "zGroupBox3dClass", 195, "Ondrelle Settings", groupBox, 7, 7, 186, 63},
+    {zAtomStatic, nullptr, zNoId, "Stat Refresh Rate (ms):", label, 13, 19, 98, 13},
+    {zAtomComboBox, nullptr, 265, nullptr, dropDownList, 113, 19, 50, 13},
+    {zAtomStatic, nullptr, zNoId, "Enable Advanced Settings:", label, 13, 35, 98, 13},
+    {zAtomButton, nullptr, 266, " ", checkBox, 113, 35, 20, 13},
+    {zAtomButton, nullptr, 267, "Fonts", tab, 113, 51, 50, 13},
+    {zAtomStatic, nullptr, zNoId, "Set Table Font:", label, 13, 51, 98, 13},
+    end,
+};
+
+constexpr zControlRecord globalConnectControls[] = {
+    {0, "zGroupBox3dClass", 195, "Global Connections", groupBox, 7, 7, 186, 63},
+    {zAtomStatic, nullptr, zNoId, "Pt-to-Pt:", label, 13, 19, 98, 13},
+    {zAtomEdit, nullptr, 268, "1024", readOnlyEdit, 113, 19, 50, 13},
+    {zAtomStatic, nullptr, zNoId, "Pt-to-Mpt:", label, 13, 35, 98, 13},
+    {zAtomEdit, nullptr, 269, "24", readOnlyEdit, 113, 35, 50, 13},
+    {zAtomStatic, nullptr, zNoId, "End Pts on a Pt-Mpt:", label, 13, 51, 98, 13},
+    {zAtomEdit, nullptr, 270, "256", readOnlyEdit, 113, 51, 50, 13},
+    end,
+};
+
+constexpr zControlRecord globalDebugControls[] = {
+    {zAtomButton, nullptr, zNoId, "Enable Debugging", groupBox, 7, 7, 186, 63},
+    {zAtomButton, nullptr, 271, "API", checkBox, 13, 19, 98, 13},
+    {zAtomButton, nullptr, 272, "Signalling", checkBox, 13, 35, 98, 13},
+    {zAtomButton, nullptr, 273, "ILMI", checkBox, 13, 51, 98, 13},
+    {zAtomStatic, nullptr, zNoId, "OD Build", label, 13, 77, 44, 13},
+    {zAtomStatic, nullptr, 274, "1997122019", label, 59, 77, 66, 13},
+    end,
+};
+
 constexpr zControlRecord fontControls[] = {
     {zAtomStatic, nullptr, zNoId, "&Font:", label, 7, 7, 33, 14},
     {zAtomComboBox, nullptr, 100, nullptr, tab | 3, 44, 7, 120, 14},
@@ -463,7 +490,9 @@ constexpr zDialogTemplate dialogs[] = {
     {lesStatsControls, 578, page, 0, 0, 284, 220, "LES ...", helv, points, zNoMenu},
     {lecsStatsControls, 579, page, 0, 0, 284, 220, "LECS", helv, points, zNoMenu},
     {ip1577StatsControls, 580, page, 0, 0, 284, 220, "1577", helv, points, zNoMenu},
-    {unavailableControls, 584, form, 0, 0, 200, 54, nullptr, helv, points, zNoMenu},
+    {globalAppControls, 581, page, 0, 0, 200, 100, "Application", helv, points, zNoMenu},
+    {globalConnectControls, 582, page, 0, 0, 200, 100, "Connections", helv, points, zNoMenu},
+    {globalDebugControls, 583, page, 0, 0, 200, 115, "Debugging", helv, points, zNoMenu},
     {fontControls, 600, form, 0, 0, 220, 130, "Select Font", helv, points, zNoMenu},
 };
 

@@ -30,7 +30,7 @@
 
 namespace {
 
-constexpr int plainForm = 584;
+constexpr int plainForm = 9501;
 constexpr int editId = 20;
 
 // A dialog with a control of every kind.
@@ -51,8 +51,14 @@ constexpr zControlRecord everyControl[] = {
     {zAtomButton, nullptr, 2, "Cancel", 0x50010000, 117, 90, 50, 15},
     {0, nullptr, 0, nullptr, 0, 0, 0, 0, 0},
 };
+constexpr zControlRecord plainControls[] = {
+    {zAtomStatic, nullptr, 100, nullptr, 0x50000001, 7, 12, 186, 10},
+    {zAtomButton, nullptr, 1, "OK", 0x50010001, 75, 32, 50, 15},
+    {0, nullptr, 0, nullptr, 0, 0, 0, 0, 0},
+};
 constexpr zDialogTemplate testDialogs[] = {
     {everyControl, everyForm, 0x90C80080, 31, 17, 170, 112, "Every", "Helv", 12, zNoMenu},
+    {plainControls, plainForm, 0x80C80080, 0, 0, 200, 54, nullptr, "Helv", 12, zNoMenu},
 };
 const bool dialogsKnown = (ziAddDialogs(testDialogs), true);
 

@@ -186,6 +186,14 @@ Picture pictureOf(const zWindow& page, int id) {
   return Picture::grey;
 }
 
+// Whether a lamp that is no layer's looks as its state says.
+void expectPicture(const zWindow& page, int id, Lamp lamp) {
+  const Picture expected = lamp == Lamp::disabled  ? Picture::grey
+                           : lamp == Lamp::checked ? Picture::green
+                                                   : Picture::red;
+  EXPECT_EQ(pictureOf(page, id), expected) << id;
+}
+
 TEST_F(StatsStage, LampsOfTheStackTellWhatItsLayersDo) {
   struct Case {
     std::uint8_t ilmi, saal, signalling;
@@ -229,10 +237,7 @@ TEST_F(StatsStage, AlarmsOfTheLineTakeTheirNeighboursWithThem) {
     for (int id = 225; id <= 230; ++id) {
       const Lamp state = lamp(board, id);
       states += state == Lamp::disabled ? '-' : state == Lamp::checked ? 'G' : 'R';
-      const Picture expected = state == Lamp::disabled  ? Picture::grey
-                               : state == Lamp::checked ? Picture::green
-                                                        : Picture::red;
-      EXPECT_EQ(pictureOf(board, id), expected) << id;
+      expectPicture(board, id, state);
     }
     return states;
   };
@@ -274,11 +279,12 @@ TEST_F(StatsStage, A25MbitInterfaceHasTheOneLamp) {
   for (const int id : {220, 221, 222, 223, 224, 226, 227, 228, 229, 230})
     EXPECT_FALSE(board.get(id)->isShown()) << id;
   EXPECT_EQ(lamp(board, 225), Lamp::checked);
-  EXPECT_EQ(pictureOf(board, 225), Picture::green);
+  expectPicture(board, 225, Lamp::checked);
   line.linkUp = 0;
   driver.serve(Query::SuniStats, line);
   board.Update();
   EXPECT_EQ(lamp(board, 225), Lamp::unchecked);
+  expectPicture(board, 225, Lamp::unchecked);
 }
 
 // State words, what the lamp shows then, and whether there is anything to show beside it.
@@ -294,10 +300,12 @@ TEST_F(StatsStage, LampsOfTheServicesFollowTheirStates) {
   driver.serve(Query::LesStats, les_stats{});
   driver.serve(Query::LecsStats, lecs_stats{});
   driver.serve(Query::IpStats, ip_stats{});
+  ASSERT_TRUE(x_driver::show(open()));
   const auto check = [&](int id, const ServiceCase& c, int field) {
     StatsPage& shown = page(id);
     shown.Update();
     EXPECT_EQ(lamp(shown, 239), c.lamp) << id << ": " << c.state << "/" << c.detail;
+    expectPicture(shown, 239, c.lamp);
     EXPECT_EQ(!fields(shown, {field}).empty(), c.hasFields) << id << ": " << c.state;
   };
   for (const ServiceCase& c :
@@ -323,15 +331,18 @@ TEST_F(StatsStage, LampsOfTheServicesFollowTheirStates) {
     driver.serve(Query::IpState, ip_state{c.state, {}});
     check(ipPage, c, 214);
   }
+  const auto registration = [&](Lamp expected) {
+    page(lecsPage).Update();
+    EXPECT_EQ(lamp(page(lecsPage), 252), expected);
+    expectPicture(page(lecsPage), 252, expected);
+  };
+  registration(half);
   lecs_stats registered{};
-  EXPECT_EQ(lamp(page(lecsPage), 252), Lamp::unchecked);
   registered.registered = 5;
   driver.serve(Query::LecsStats, registered);
-  page(lecsPage).Update();
-  EXPECT_EQ(lamp(page(lecsPage), 252), Lamp::checked);
+  registration(on);
   driver.refuse(Query::LecsStats);
-  page(lecsPage).Update();
-  EXPECT_EQ(lamp(page(lecsPage), 252), Lamp::disabled);
+  registration(off);
 }
 
 // ---- A driver that fails in the middle

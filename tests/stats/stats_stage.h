@@ -167,5 +167,5 @@ class StatsStage : public testing::Test {
 // An ATM address whose bytes count up from `first`, and how its parts read.
 template <std::size_t size>
 void fillAddress(std::uint8_t (&address)[size], int first) {
-  for (std::size_t i = 0; i < size; ++i) address[i] = static_cast<std::uint8_t>(first + i);
+  for (std::uint8_t& byte : address) byte = static_cast<std::uint8_t>(first++);
 }

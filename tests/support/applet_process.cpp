@@ -179,6 +179,18 @@ void Person::key(KeySym symbol, std::initializer_list<KeySym> held) const {
   XSync(display_, False);
 }
 
+void Person::place(Window window, int x, int y) const {
+  const auto corner = [&] {
+    int left = 0, top = 0;
+    Window child = None;
+    XTranslateCoordinates(display_, window, DefaultRootWindow(display_), 0, 0, &left, &top, &child);
+    return std::pair(left, top);
+  };
+  const auto before = corner();
+  XMoveWindow(display_, window, x, y);
+  lisimWaitFor([&] { return corner() != before; });
+}
+
 void Person::closeByManager(Window window) const {
   XEvent event{};
   event.xclient.type = ClientMessage;

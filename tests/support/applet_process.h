@@ -81,6 +81,9 @@ class Person {
   void moveTo(Window window, int x, int y) const;
   void click(Window window, int x, int y) const;
   void key(KeySym symbol, std::initializer_list<KeySym> held = {}) const;
+  // Has the window manager put the window at another place on the screen, as dragging its title
+  // does.
+  void place(Window window, int x, int y) const;
   // What a window manager does when its close button is pressed.
   void closeByManager(Window window) const;
 
