@@ -16,12 +16,13 @@ def need(tool, package):
         sys.exit(f"Missing {tool}: install it with 'apt-get install {package}'.")
 
 
-def run_bench(usage, count, measure):
+def run_bench(usage, count, measure, tools=None):
     """A script of a build folder and a count, which is this one if it is left out: measures on
-    $DISPLAY, in a folder of its own."""
+    $DISPLAY, in a folder of its own. `tools` are what it needs, with their packages."""
     if len(sys.argv) not in (2, 3) or "DISPLAY" not in os.environ:
         sys.exit(usage)
-    need("xtrace", "xtrace")
+    for tool, package in (tools or {"xtrace": "xtrace"}).items():
+        need(tool, package)
     build = os.path.abspath(sys.argv[1])
     with tempfile.TemporaryDirectory() as scratch:
         os.chdir(scratch)
