@@ -1,5 +1,6 @@
 // The commands about a board's services: what the applet would start, who connects to it, and
 // states that are reported whatever is the case.
+#include <algorithm>
 #include <cstring>
 
 #include "driver/frame.h"
@@ -74,6 +75,8 @@ Reply startClient(Simulator& simulator, const Values& values, Milliseconds now) 
   client = LanClient{true, {}, now, 0, {}};
   client.record.lecs = 1;
   client.record.mfs = 1;
+  client.record.address[0] = 0x47;
+  std::ranges::copy(boardOf(simulator, values).mac, client.record.address + networkPrefixBytes);
   nameElan(client.record.elanName, values[2]);
   return {};
 }

@@ -167,6 +167,14 @@ TEST(Process, TimedCommandsWaitForTheirTime) {
   EXPECT_EQ(lisim.run().line(), "lisim: control: the board has no link to switch");
 }
 
+TEST(Process, CommandsAreDoneAgainAndAgain) {
+  LisimProcess lisim("every 40ms board 1 counter cells-in 7\nat 20ms every 40ms switch 1\n");
+  for (int i = 0; i < 3; ++i)
+    EXPECT_THAT(lisim.run().line(), testing::EndsWith("the board has no link to switch"));
+  EXPECT_THAT(lisim.command("every"), StartsWith("error: expected a time"));
+  EXPECT_THAT(lisim.command("at 1s every 1s"), StartsWith("error: no command behind 'every'"));
+}
+
 TEST(Process, TraceHasALineForEverything) {
   LisimProcess lisim("fault 129 16 silence\n");
   {

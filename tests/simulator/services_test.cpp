@@ -196,6 +196,81 @@ TEST_F(Services, IpServiceAndItsCircuits) {
   EXPECT_EQ(control(Control::IpEnable, 0, record), Answer::badValue);
 }
 
+// By commands.
+
+TEST_F(Services, PeersComeAndGoAndLeaveTheirCircuitsToOthers) {
+  const auto command = [&](const std::string& line) { return lisim.command("board 1 " + line); };
+  EXPECT_EQ(command("lec 0 connect 02:00:00:00:00:01"), "error: the service does not run\n");
+  for (const char* line : {"lec 0 on", "lec 0 connect 02:00:00:00:00:01",
+                           "lec 0 connect 02:00:00:00:00:02", "les 2 on elan plant floor",
+                           "les 2 join 02:00:00:00:00:03", "ip on", "ip connect 10.0.0.7"})
+    EXPECT_EQ(command(line), "ok\n") << line;
+  EXPECT_EQ(vcis(), (std::vector{5, 16, 256, 257, 258, 259, 512, 513, 514, 515, 516}));
+  const auto second = ask(Query::LecTable, 0, 2).as<lec_tbl_t>(sizeof(lec_tbl_t));
+  EXPECT_EQ(second.macAddress[5], 2);
+  EXPECT_EQ(second.address[networkPrefixBytes + 5], 2);
+  EXPECT_EQ(second.connectionKind, 1);
+  EXPECT_EQ(second.vci, 513);
+  EXPECT_STREQ(ask(Query::LesStats, 2).as<les_stats>().elanName, "plant floor");
+  const auto joined = ask(Query::LesTable, 2, 1).as<les_tbl>();
+  EXPECT_EQ(joined.macAddress[5], 3);
+  EXPECT_EQ(joined.controlDirectVci, 514);
+  EXPECT_EQ(joined.multicastSendVci, 515);
+  const auto host = ask(Query::IpTable, 0, 1).as<ip_tbl>();
+  EXPECT_EQ(host.ipAddress[0] * 256 + host.ipAddress[3], 10 * 256 + 7);
+  EXPECT_EQ(host.vci, 516);
+
+  EXPECT_EQ(command("lec 0 disconnect 02:00:00:00:00:09"), "error: no such entry\n");
+  EXPECT_EQ(command("lec 0 disconnect 02:00:00:00:00:01"), "ok\n");
+  EXPECT_EQ(command("ip connect 10.0.0.8"), "ok\n");
+  EXPECT_EQ(ask(Query::IpTable, 0, 2).as<ip_tbl>(sizeof(ip_tbl)).vci, 512) << "used anew";
+  EXPECT_EQ(command("lec 0 connections 900"), "ok\n");
+  EXPECT_EQ(count(Query::LecTable), 900);
+  EXPECT_EQ(command("lec 0 connections 1"), "ok\n");
+  EXPECT_EQ(ask(Query::LecTable, 0, 1).as<lec_tbl_t>().macAddress[5], 2) << "the first one stays";
+  EXPECT_EQ(command("les 2 joined 65000"), "error: the table is full\n");
+  EXPECT_EQ(command("lec 0 off"), "ok\n");
+  EXPECT_EQ(count(Query::LecTable), 0);
+}
+
+TEST_F(Services, CountersAndStatesAreAsCommanded) {
+  const auto command = [&](const std::string& line) { return lisim.command("board 1 " + line); };
+  for (const char* line : {"counter lecs-rejected 3", "counter lecs-open 5", "counter ip-in 7",
+                           "counter ip-dropped-out 8", "counter vc-out 40"})
+    EXPECT_EQ(command(line), "ok\n");
+  EXPECT_EQ(ask(Query::LecsStats).as<lecs_stats>().connectionsOpen, 0U) << "while it is off";
+  for (const char* line : {"lecs on", "ip on", "les 0 on", "les 0 joined 1"}) command(line);
+  EXPECT_EQ(ask(Query::LecsStats).as<lecs_stats>().rejectedRequests, 3U);
+  EXPECT_EQ(ask(Query::LecsStats).as<lecs_stats>().connectionsOpen, 5U);
+  EXPECT_EQ(ask(Query::IpStats).as<ip_stats>().received[0], 7U);
+  EXPECT_EQ(ask(Query::IpStats).as<ip_stats>().txDropped[0], 8U);
+  const auto joined = ask(Query::LesTable, 0, 1).as<les_tbl>();
+  EXPECT_EQ(joined.controlDirectTx + joined.multicastSendTx, 80U);
+
+  struct Case {
+    const char* service;
+    Query query;
+    std::uint32_t real;
+  };
+  for (const Case& c : {Case{"lec 3", Query::LecState, 0}, Case{"les 0", Query::LesState, 1},
+                        Case{"lecs", Query::LecsState, 4}, Case{"ip", Query::IpState, 5}}) {
+    const std::string service = c.service;
+    const std::uint8_t unit = service == "lec 3" ? 3 : 0;
+    command(service + " state 17");
+    EXPECT_EQ(state(c.query, unit), 17U) << service;
+    command(service + " state auto");
+    EXPECT_EQ(state(c.query, unit), c.real) << service;
+  }
+  command("ilmi 3");
+  command("saal 8");
+  command("sig 255");
+  auto stack = ask(Query::LinkState).as<sig_link_state>(8);
+  EXPECT_EQ(stack.ilmi + 256 * stack.saal + 65536 * stack.signalling, 3 + 256 * 8 + 65536 * 255);
+  command("sig auto");
+  stack = ask(Query::LinkState).as<sig_link_state>(8);
+  EXPECT_EQ(stack.signalling, 1);
+}
+
 TEST_F(Services, SignallingTakesItsRecord) {
   sigPortCfg_s cfg;
   cfg.port = 1;
