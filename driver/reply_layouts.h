@@ -155,8 +155,13 @@ inline constexpr RecordField ipStateFields[] = {
 };
 
 inline constexpr RecordField ipStatsFields[] = {
-    RECORD_FIELD(ip_stats, words, 0, "words", FieldKind::wordList),
+    RECORD_FIELD(ip_stats, transmitted, 48, "transmitted", FieldKind::wordList),
+    RECORD_FIELD(ip_stats, txDropped, 68, "tx dropped", FieldKind::wordList),
+    RECORD_FIELD(ip_stats, received, 80, "received", FieldKind::wordList),
+    RECORD_FIELD(ip_stats, rxDropped, 88, "rx dropped", FieldKind::wordList),
+    RECORD_FIELD(ip_stats, receivedOther, 124, "received otherwise", FieldKind::number),
 };
+static_assert(isLaidOut<ip_stats>(ipStatsFields, false));
 
 inline constexpr RecordField ipTableFields[] = {
     RECORD_FIELD(ip_tbl, state, 0, "state", FieldKind::number),

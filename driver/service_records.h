@@ -154,10 +154,21 @@ struct ip_state {
 };
 static_assert(sizeof(ip_state) == 16);
 
+// Counters by what became of a packet; those of an array are shown as their sum, receivedOther with
+// received.
 struct ip_stats {
-  std::uint32_t words[40];  // summed by the page that shows them
+  std::uint32_t reserved0[12];
+  std::uint32_t transmitted[2];
+  std::uint32_t reserved56[3];
+  std::uint32_t txDropped[3];
+  std::uint32_t received[2];
+  std::uint32_t rxDropped[9];
+  std::uint32_t receivedOther;
+  std::uint32_t reserved128[8];
 };
-static_assert(sizeof(ip_stats) == 160);
+static_assert(sizeof(ip_stats) == 160 && offsetof(ip_stats, transmitted) == 48 &&
+              offsetof(ip_stats, txDropped) == 68 && offsetof(ip_stats, received) == 80 &&
+              offsetof(ip_stats, rxDropped) == 88 && offsetof(ip_stats, receivedOther) == 124);
 
 // A connection of the IP client.
 struct ip_tbl {

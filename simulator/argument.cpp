@@ -9,8 +9,10 @@ namespace lisim {
 const char* const alarmNames[alarmKinds] = {"los", "lof", "oof", "ferf", "ais", "lop"};
 
 const char* const counterWords[counterNames] = {
-    "cells-in",    "cells-out",   "packets-in", "packets-out", "cell-errors", "frame-errors",
-    "invalid-vci", "invalid-vpi", "dropped-in", "dropped-out", "vc-in",       "vc-out"};
+    "cells-in",    "cells-out",     "packets-in",    "packets-out", "cell-errors", "frame-errors",
+    "invalid-vci", "invalid-vpi",   "dropped-in",    "dropped-out", "vc-in",       "vc-out",
+    "lecs-valid",  "lecs-invalid",  "lecs-rejected", "lecs-made",   "lecs-open",   "ip-in",
+    "ip-out",      "ip-dropped-in", "ip-dropped-out"};
 
 namespace {
 
@@ -107,6 +109,21 @@ bool readMac(std::string_view word, Value& value) {
   return true;
 }
 
+bool readIp(std::string_view word, Value& value) {
+  value.number = 0;
+  const char* at = word.data();
+  const char* const end = at + word.size();
+  for (int part = 0; part < 4; ++part) {
+    if (part > 0 && (at == end || *at++ != '.')) return false;
+    std::uint8_t byte = 0;
+    const auto [behind, error] = std::from_chars(at, end, byte);
+    if (error != std::errc()) return false;
+    at = behind;
+    value.number = value.number << 8 | byte;
+  }
+  return at == end;
+}
+
 // Any 16-bit number, or "*" for all, which counts as not given.
 bool readPattern(std::string_view word, Value& value) {
   if (word != "*") return readNumber(word, 0, 65535, value);
@@ -154,8 +171,10 @@ std::span<const ArgumentKind> argumentKinds() {
       {"board", readBoard, "a board number from 1 to 8"},
       {"active", readActive, "a board number from 1, or none"},
       {"mac", readMac, "a MAC address such as 02:4C:49:00:01:00"},
+      {"ip", readIp, "an IP address such as 10.0.0.1"},
       {"slots", readRange<0, boardSlots>, "a number from 0 to 8"},
       {"server", readRange<0, unitSlots - 1>, "a server's number from 0 to 15"},
+      {"unit", readRange<0, unitSlots - 1>, "a client's or server's number from 0 to 15"},
       {"rows", readRange<0, maxVcRows>, "a number of rows from 0 to 65534"},
       {"byte", readRange<0, 255>, "a number from 0 to 255"},
       {"short", readRange<0, 65535>, "a number from 0 to 65535"},

@@ -18,6 +18,17 @@ constexpr AalCounter aalCounters[] = {
     {droppedIn, &aal_stats::rxDropped},     {droppedOut, &aal_stats::txDropped},
 };
 
+struct ConfigServerCounter {
+  CounterName counter;
+  std::uint32_t lecs_stats::*word;
+};
+
+constexpr ConfigServerCounter configServerCounters[] = {
+    {lecsValid, &lecs_stats::validRequests},       {lecsInvalid, &lecs_stats::invalidRequests},
+    {lecsRejected, &lecs_stats::rejectedRequests}, {lecsMade, &lecs_stats::connectionsMade},
+    {lecsOpen, &lecs_stats::connectionsOpen},
+};
+
 constexpr std::uint32_t suni_stats::*alarmWords[alarmKinds] = {&suni_stats::los, &suni_stats::lof,
                                                                &suni_stats::oof, &suni_stats::ferf,
                                                                &suni_stats::ais, &suni_stats::lop};
@@ -30,11 +41,6 @@ constexpr std::size_t firstDataVci = 33;
 // So that the rows of one table do not all show one number.
 constexpr std::uint32_t rowSpread = 1000;
 
-std::uint16_t ownVci(std::size_t row) {
-  return row < signallingRows ? signallingVcis[row]
-                              : static_cast<std::uint16_t>(firstDataVci + (row - signallingRows));
-}
-
 bool isOwnVci(const Board& board, std::uint16_t vci) {
   for (std::size_t row = 0; row < std::min<std::size_t>(signallingRows, board.vcRows); ++row)
     if (signallingVcis[row] == vci) return true;
@@ -42,6 +48,11 @@ bool isOwnVci(const Board& board, std::uint16_t vci) {
 }
 
 }  // namespace
+
+std::uint16_t ownVci(std::size_t row) {
+  return row < signallingRows ? signallingVcis[row]
+                              : static_cast<std::uint16_t>(firstDataVci + (row - signallingRows));
+}
 
 aal_stats aalStatsOf(const Board& board, Milliseconds now, std::uint32_t seed) {
   const Milliseconds time = board.traffic.at(now);
@@ -76,15 +87,34 @@ std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& service
   return vcis;
 }
 
-vc_tbl vcRowOf(const Board& board, std::uint16_t vci, std::size_t row, Milliseconds now,
-               std::uint32_t seed) {
+vc_tbl vcRowOf(const Board& board, std::uint16_t vci, Milliseconds now, std::uint32_t seed) {
   const Milliseconds time = board.traffic.at(now);
-  const std::uint32_t offset = seed == 0 ? 0 : draw(seed, row, vcIn) % rowSpread;
+  const std::uint32_t offset = seed == 0 ? 0 : draw(seed, vci, vcIn) % rowSpread;
   vc_tbl entry{};
   entry.vci = static_cast<std::int16_t>(vci);
   entry.counterIn = board.counters[vcIn].value(time, seed) + offset;
   entry.counterOut = board.counters[vcOut].value(time, seed) + offset;
   return entry;
+}
+
+void countConfigServer(const Board& board, Milliseconds now, std::uint32_t seed,
+                       lecs_stats& stats) {
+  if (!board.services.configServer.enabled) return;
+  const Milliseconds time = board.traffic.at(now);
+  for (const ConfigServerCounter& entry : configServerCounters)
+    stats.*entry.word = board.counters[entry.counter].value(time, seed);
+}
+
+ip_stats ipStatsOf(const Board& board, Milliseconds now, std::uint32_t seed) {
+  ip_stats stats{};
+  if (!board.services.ip.enabled) return stats;
+  const Milliseconds time = board.traffic.at(now);
+  const auto count = [&](CounterName name) { return board.counters[name].value(time, seed); };
+  stats.received[0] = count(ipIn);
+  stats.transmitted[0] = count(ipOut);
+  stats.rxDropped[0] = count(ipDroppedIn);
+  stats.txDropped[0] = count(ipDroppedOut);
+  return stats;
 }
 
 }  // namespace lisim

@@ -38,6 +38,15 @@ enum CounterName {
   droppedOut,
   vcIn,
   vcOut,
+  lecsValid,
+  lecsInvalid,
+  lecsRejected,
+  lecsMade,
+  lecsOpen,
+  ipIn,
+  ipOut,
+  ipDroppedIn,
+  ipDroppedOut,
   counterNames
 };
 
@@ -88,12 +97,18 @@ suni_stats suniStatsOf(const Board& board);
 // The board's services as of `now`, with the time a step of theirs takes.
 ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step);
 
+// The VCI in row `row` of the traffic that the board has of its own.
+std::uint16_t ownVci(std::size_t row);
+
 // The VCIs of the board's virtual-circuit table: those of its own traffic, the two signalling
 // circuits first, then what the services have beyond them.
 std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services);
 
-// Row `row` of that table.
-vc_tbl vcRowOf(const Board& board, std::uint16_t vci, std::size_t row, Milliseconds now,
-               std::uint32_t seed);
+// The circuit's row of that table. With a seed other than 0 each has counts of its own.
+vc_tbl vcRowOf(const Board& board, std::uint16_t vci, Milliseconds now, std::uint32_t seed);
+
+// The counters of the services, which are zero while they are off.
+void countConfigServer(const Board& board, Milliseconds now, std::uint32_t seed, lecs_stats& stats);
+ip_stats ipStatsOf(const Board& board, Milliseconds now, std::uint32_t seed);
 
 }  // namespace lisim

@@ -64,7 +64,7 @@ Answer vcRows(Request& request) {
   const Board& board = request.board();
   const auto vcis = vcisOf(board, request.services());
   return deliverRows(request, vcis.size(), [&](std::size_t row) {
-    return vcRowOf(board, vcis[row], row, request.now, request.simulator.adapters.seed);
+    return vcRowOf(board, vcis[row], request.now, request.simulator.adapters.seed);
   });
 }
 

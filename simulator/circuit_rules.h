@@ -27,6 +27,18 @@ Answer deleteCircuit(Request& request, Service& service) {
   return std::erase_if(service.pvcs, isNamed) == 0 ? Answer::noSuchEntry : Answer::done;
 }
 
+// What the tables of connections tell of each in the same way.
+template <class Row>
+Row connectionRow(Request& request, std::uint16_t kind, std::uint16_t vci) {
+  const vc_tbl counts = request.vcRow(vci);
+  Row row{};
+  row.connectionKind = kind;
+  row.vci = vci;
+  row.txPackets = counts.counterOut;
+  row.rxPackets = counts.counterIn;
+  return row;
+}
+
 // A flag or a number of a list in a request's record.
 inline bool isOneOf(std::uint32_t value, std::uint32_t first, std::uint32_t last) {
   return value >= first && value <= last;
@@ -35,7 +47,8 @@ inline bool isOneOf(std::uint32_t value, std::uint32_t first, std::uint32_t last
 constexpr std::uint32_t smallestFrame = 1;
 constexpr std::uint32_t largestFrame = 4;
 
-// What marks a table's row as that of a permanent circuit.
+// What marks a table's row as that of a switched and of a permanent circuit.
+constexpr std::uint16_t switchedConnection = 1;
 constexpr std::uint16_t permanentConnection = 2;
 
 }  // namespace lisim

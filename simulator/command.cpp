@@ -119,13 +119,27 @@ bool nearer(const Match& one, const Match& other) {
 
 std::optional<Command> parseForm(std::string_view line, std::string& error) {
   Match best;
-  for (const CommandForm& form : commandForms()) {
-    Match match = Matcher(form.pattern, line).match();
-    if (match.complete) return Command{&form, std::move(match.values)};
-    if (best.error.empty() || nearer(match, best)) best = std::move(match);
+  for (const auto& forms : {commandForms(), serviceCommandForms()}) {
+    for (const CommandForm& form : forms) {
+      Match match = Matcher(form.pattern, line).match();
+      if (match.complete) return Command{&form, std::move(match.values)};
+      if (best.error.empty() || nearer(match, best)) best = std::move(match);
+    }
   }
   error = best.words == 0 ? "unknown command '" + std::string(peekWord(line)) + "'" : best.error;
   return std::nullopt;
+}
+
+// Takes "WORD TIME" off the start of `rest`, if it starts with the word. 0 when it does not.
+Milliseconds takeTime(std::string_view& rest, std::string_view word, std::string& error) {
+  if (!error.empty() || peekWord(rest) != word) return 0;
+  nextWord(rest);
+  Value time;
+  const std::string expected = readArgument("time", nextWord(rest), time);
+  if (!expected.empty()) error = "expected " + expected + " behind '" + std::string(word) + "'";
+  if (error.empty() && peekWord(rest).empty())
+    error = "no command behind '" + std::string(word) + "'";
+  return static_cast<Milliseconds>(time.number);
 }
 
 }  // namespace
@@ -134,17 +148,13 @@ std::optional<Command> parseCommand(std::string_view line, std::string& error) {
   error.clear();
   std::string_view rest = trimmed(withoutComment(line));
   if (rest.empty()) return std::nullopt;
-  Value delay;
-  if (peekWord(rest) == "at") {
-    nextWord(rest);
-    const std::string_view word = nextWord(rest);
-    const std::string expected = readArgument("time", word, delay);
-    if (!expected.empty()) error = "expected " + expected + " behind 'at'";
-    if (error.empty() && peekWord(rest).empty()) error = "no command behind 'at'";
-    if (!error.empty()) return std::nullopt;
-  }
+  const Milliseconds delay = takeTime(rest, "at", error);
+  const Milliseconds period = takeTime(rest, "every", error);
+  if (!error.empty()) return std::nullopt;
   auto command = parseForm(rest, error);
-  if (command) command->delay = static_cast<Milliseconds>(delay.number);
+  if (!command) return std::nullopt;
+  command->delay = delay;
+  command->period = period;
   return command;
 }
 

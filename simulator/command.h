@@ -35,12 +35,15 @@ struct CommandForm {
   Reply (*run)(Simulator&, const Values&, Milliseconds now);
 };
 
+// The tables: everything but the services, and these.
 std::span<const CommandForm> commandForms();
+std::span<const CommandForm> serviceCommandForms();
 
 struct Command {
   const CommandForm* form;
   Values values;
-  Milliseconds delay = 0;  // from a leading "at"
+  Milliseconds delay = 0;   // from a leading "at"
+  Milliseconds period = 0;  // from "every": 0 once
 };
 
 // Takes a line apart. Nothing without an error is a line with no command on it.

@@ -134,6 +134,7 @@ Reply setSignalling(Simulator& simulator, const Values& values, Milliseconds now
 Reply addMapping(Simulator& simulator, const Values& values, Milliseconds) {
   ConfigServer& server = boardOf(simulator, values).services.configServer;
   if (!server.enabled) return outcome(Answer::notRunning);
+  if (server.clients.size() >= mostMappings) return outcome(Answer::tableFull);
   lecs_tbl row{{}, static_cast<std::uint8_t>(values[1].number), Mapping::learnt};
   auto bits = static_cast<std::uint64_t>(values[2].number) << 8 |
               static_cast<std::uint64_t>(values[3].number);
@@ -226,12 +227,14 @@ std::string servicesText(const Board& board, const ServiceView& view) {
     text += view.signallingUp() ? "  signalling up\n" : "  signalling coming up\n";
   for (int unit = 0; unit < unitSlots; ++unit) {
     const auto place = static_cast<std::size_t>(unit);
-    text += serviceText("lec", unit, view.clientState(unit), services.clients[place].pvcs.size());
+    text += serviceText("lec", unit, view.clientState(unit),
+                        view.peersOfClient(unit).size() + services.clients[place].pvcs.size());
   }
   for (int unit = 0; unit < unitSlots; ++unit)
     text += serviceText("les", unit, view.serverState(unit), view.joinedClients(unit).size());
   text += serviceText("lecs", -1, view.configServerState(), services.configServer.clients.size());
-  return text + serviceText("ip", -1, view.ipState(), services.ip.pvcs.size());
+  return text +
+         serviceText("ip", -1, view.ipState(), view.peersOfIp().size() + services.ip.pvcs.size());
 }
 
 Reply show(Simulator& simulator, const Values&, Milliseconds now) {

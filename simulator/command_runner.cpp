@@ -1,5 +1,6 @@
 #include "simulator/command_runner.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace lisim {
@@ -8,15 +9,20 @@ Reply CommandRunner::run(std::string_view line, const std::string& origin) {
   std::string error;
   const auto command = parseCommand(line, error);
   if (!command) return {"", error};
-  if (command->delay == 0) return runNow(*command);
-  loop_.at(loop_.now() + command->delay, [this, command, origin] {
-    const Reply reply = runNow(*command);
+  if (command->delay == 0 && command->period == 0) return runNow(*command);
+  runAt(loop_.now() + command->delay, *command, origin);
+  return {};
+}
+
+void CommandRunner::runAt(Milliseconds due, const Command& command, const std::string& origin) {
+  loop_.at(due, [this, due, command, origin] {
+    if (command.period != 0) runAt(std::max(due + command.period, loop_.now()), command, origin);
+    const Reply reply = runNow(command);
     std::fputs(reply.lines.c_str(), stdout);
     std::fflush(stdout);
     if (!reply.error.empty())
       std::fprintf(stderr, "lisim: %s: %s\n", origin.c_str(), reply.error.c_str());
   });
-  return {};
 }
 
 Reply CommandRunner::runNow(const Command& command) {

@@ -41,27 +41,47 @@ Answer state(Request& request) {
 }
 
 Answer statistics(Request& request) {
-  request.reply(ip_stats{});
+  request.reply(ipStatsOf(request.board(), request.now, request.simulator.adapters.seed));
   return Answer::done;
 }
 
-Answer rowCount(Request& request) {
+Answer pvcCount(Request& request) {
   request.head.NRow = static_cast<std::uint16_t>(ipOf(request).pvcs.size());
   return Answer::done;
 }
 
+// The client's connections: those that switching has made, then the permanent ones.
+
+Answer connectionCount(Request& request) {
+  const std::size_t rows = request.services().peersOfIp().size() + ipOf(request).pvcs.size();
+  request.head.NRow = static_cast<std::uint16_t>(rows);
+  return Answer::done;
+}
+
+ip_tbl activeRow(Request& request, std::uint16_t kind, std::uint16_t vci) {
+  auto row = connectionRow<ip_tbl>(request, kind, vci);
+  row.state = connectionActive;
+  return row;
+}
+
+ip_tbl switchedRow(Request& request, const Peer& peer) {
+  constexpr std::uint64_t localEsi = 0x020000000000;  // of which the IP address is the rest
+  ip_tbl row = activeRow(request, switchedConnection, peer.vcis[0]);
+  request.services().writePeerAddress(row.address, localEsi | peer.name);
+  std::memcpy(row.ipAddress, row.address + networkPrefixBytes + esiBytes - sizeof row.ipAddress,
+              sizeof row.ipAddress);
+  return row;
+}
+
 Answer connectionRows(Request& request) {
+  const ServiceView services = request.services();
+  const auto peers = services.peersOfIp();
   const auto& pvcs = ipOf(request).pvcs;
-  return deliverRows(request, pvcs.size(), [&](std::size_t i) {
-    const vc_tbl counts =
-        vcRowOf(request.board(), pvcs[i].vcIndex, i, request.now, request.simulator.adapters.seed);
-    ip_tbl row{};
-    row.state = connectionActive;
-    row.connectionKind = permanentConnection;
-    row.vci = pvcs[i].vcIndex;
-    row.txPackets = counts.counterOut;
-    row.rxPackets = counts.counterIn;
-    std::memcpy(row.ipAddress, pvcs[i].ipAddress, sizeof row.ipAddress);
+  return deliverRows(request, peers.size() + pvcs.size(), [&](std::size_t i) {
+    if (i < peers.size()) return switchedRow(request, peers[i]);
+    const ip_pvc& pvc = pvcs[i - peers.size()];
+    ip_tbl row = activeRow(request, permanentConnection, pvc.vcIndex);
+    std::memcpy(row.ipAddress, pvc.ipAddress, sizeof row.ipAddress);
     return row;
   });
 }
@@ -85,9 +105,9 @@ constexpr Operation operations[] = {
     controlOperation(Control::IpDeletePvc, board, deletePvc),
     queryOperation(Query::IpState, state),
     queryOperation(Query::IpStats, statistics),
-    countOperation(Query::IpTable, rowCount),
+    countOperation(Query::IpTable, connectionCount),
     tableOperation(Query::IpTable, connectionRows),
-    countOperation(Query::IpPvcTable, rowCount),
+    countOperation(Query::IpPvcTable, pvcCount),
     tableOperation(Query::IpPvcTable, pvcRows),
 };
 

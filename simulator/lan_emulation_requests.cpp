@@ -65,22 +65,29 @@ Answer clientStatistics(Request& request) {
   return Answer::done;
 }
 
+// A client's connections: those that switching has made, then the permanent ones.
+
 Answer clientRowCount(Request& request) {
-  request.head.NRow = static_cast<std::uint16_t>(clientOf(request).pvcs.size());
+  const std::size_t rows =
+      request.services().peersOfClient(request.head.Unit).size() + clientOf(request).pvcs.size();
+  request.head.NRow = static_cast<std::uint16_t>(rows);
   return Answer::done;
 }
 
 Answer clientRows(Request& request) {
+  const ServiceView services = request.services();
+  const auto peers = services.peersOfClient(request.head.Unit);
   const auto& pvcs = clientOf(request).pvcs;
-  return deliverRows(request, pvcs.size(), [&](std::size_t i) {
-    const vc_tbl counts =
-        vcRowOf(request.board(), pvcs[i].vcIndex, i, request.now, request.simulator.adapters.seed);
-    lec_tbl_t row{};
-    std::memcpy(row.macAddress, pvcs[i].macAddress, sizeof row.macAddress);
-    row.connectionKind = permanentConnection;
-    row.vci = pvcs[i].vcIndex;
-    row.txPackets = counts.counterOut;
-    row.rxPackets = counts.counterIn;
+  return deliverRows(request, peers.size() + pvcs.size(), [&](std::size_t i) {
+    if (i >= peers.size()) {
+      const bdgPvcReqStruct& pvc = pvcs[i - peers.size()];
+      auto row = connectionRow<lec_tbl_t>(request, permanentConnection, pvc.vcIndex);
+      std::memcpy(row.macAddress, pvc.macAddress, sizeof row.macAddress);
+      return row;
+    }
+    auto row = connectionRow<lec_tbl_t>(request, switchedConnection, peers[i].vcis[0]);
+    services.writePeerAddress(row.address, peers[i].name);
+    std::memcpy(row.macAddress, row.address + networkPrefixBytes, sizeof row.macAddress);
     return row;
   });
 }
@@ -122,7 +129,16 @@ Answer serverRowCount(Request& request) {
 
 Answer serverRows(Request& request) {
   const auto rows = request.services().joinedClients(request.head.Unit);
-  return deliverRows(request, rows.size(), [&](std::size_t i) { return rows[i]; });
+  return deliverRows(request, rows.size(), [&](std::size_t i) {
+    les_tbl row = rows[i];
+    const vc_tbl control = request.vcRow(row.controlDirectVci);
+    const vc_tbl multicast = request.vcRow(row.multicastSendVci);
+    row.controlDirectTx = control.counterOut;
+    row.controlDirectRx = control.counterIn;
+    row.multicastSendTx = multicast.counterOut;
+    row.multicastSendRx = multicast.counterIn;
+    return row;
+  });
 }
 
 // The configuration server. It is set up first and then set going.
@@ -148,8 +164,6 @@ Answer startConfigServer(Request& request) {
   server.going = true;
   return Answer::done;
 }
-
-constexpr std::size_t mostMappings = 65534;  // what a 16-bit row number reaches
 
 auto findClient(ConfigServer& server, const lecs_req& client) {
   return std::ranges::find_if(server.clients, [&](const lecs_tbl& known) {
@@ -189,7 +203,9 @@ Answer configServerState(Request& request) {
 }
 
 Answer configServerStatistics(Request& request) {
-  request.reply(request.services().configServerStats());
+  lecs_stats stats = request.services().configServerStats();
+  countConfigServer(request.board(), request.now, request.simulator.adapters.seed, stats);
+  request.reply(stats);
   return Answer::done;
 }
 

@@ -24,6 +24,7 @@ struct Request {
   std::size_t inputBytes;           // of the payload that are input
   std::uint16_t rowLimit;           // a fault can hold table reads short
   Board& board() { return simulator.adapters.board(head.Link); }
+  vc_tbl vcRow(std::uint16_t vci) { return vcRowOf(board(), vci, now, simulator.adapters.seed); }
   ServiceView services() { return serviceView(board(), now, simulator.adapters.joinStep); }
 
   // Puts a record at `offset` of the payload. The dispatcher has made sure of the room.

@@ -80,22 +80,26 @@ std::uint32_t ServiceView::joinState(bool enabled, bool pvcOnly, Milliseconds si
 
 std::uint32_t ServiceView::clientState(int unit) const {
   const LanClient& client = services.clients[static_cast<std::size_t>(unit)];
+  if (client.forcedState) return *client.forcedState;
   return joinState(client.enabled, client.record.config == 1, client.since, lecOperational);
 }
 
 std::uint32_t ServiceView::serverState(int unit) const {
-  return services.servers[static_cast<std::size_t>(unit)].enabled ? lesRunning : serviceOff;
+  const LanServer& server = services.servers[static_cast<std::size_t>(unit)];
+  return server.forcedState.value_or(server.enabled ? lesRunning : serviceOff);
 }
 
 std::uint32_t ServiceView::configServerState() const {
   const ConfigServer& server = services.configServer;
+  if (server.forcedState) return *server.forcedState;
   if (!server.enabled) return serviceOff;
   return server.going ? lecsOperational : serviceJoining;
 }
 
 std::uint32_t ServiceView::ipState() const {
-  return joinState(services.ip.enabled, services.ip.record.config == 1, services.ip.since,
-                   ipOperational);
+  const IpService& ip = services.ip;
+  if (ip.forcedState) return *ip.forcedState;
+  return joinState(ip.enabled, ip.record.config == 1, ip.since, ipOperational);
 }
 
 // An address of this board: its network prefix, its MAC address `offset` further on, a selector.
@@ -111,13 +115,17 @@ sig_link_state ServiceView::linkState() const {
   sig_link_state state{};
   if (!services.signalling.portEnabled) {
     state.ilmi = state.saal = state.signalling = layerNotConfigured;
-    return state;
+  } else {
+    const std::uint32_t steps = signallingSteps();
+    state.ilmi = steps >= ilmiSteps ? ilmiRegistered : ilmiRegistering;
+    state.saal = steps >= saalSteps ? saalReady : saalConnecting;
+    state.signalling = steps >= sigSteps ? sigReady : sigDisconnected;
+    if (steps >= ilmiSteps) writeAddress(state.address, 0, 0);
   }
-  const std::uint32_t steps = signallingSteps();
-  state.ilmi = steps >= ilmiSteps ? ilmiRegistered : ilmiRegistering;
-  state.saal = steps >= saalSteps ? saalReady : saalConnecting;
-  state.signalling = steps >= sigSteps ? sigReady : sigDisconnected;
-  if (steps >= ilmiSteps) writeAddress(state.address, 0, 0);
+  const auto& forced = services.signalling.forcedLayers;
+  state.ilmi = forced[0].value_or(state.ilmi);
+  state.saal = forced[1].value_or(state.saal);
+  state.signalling = forced[2].value_or(state.signalling);
   return state;
 }
 
@@ -190,18 +198,51 @@ std::vector<les_tbl> ServiceView::joinedClients(int unit) const {
     row.multicastSendVci = controlVci(i, 2);
     rows.push_back(row);
   }
+  for (const Peer& peer : server.peers) {
+    les_tbl row{};
+    writePeerAddress(row.address, peer.name);
+    std::memcpy(row.macAddress, row.address + networkPrefixBytes, sizeof row.macAddress);
+    row.state = busActive;
+    row.controlDirectVci = peer.vcis[0];
+    row.multicastSendVci = peer.vcis[1];
+    rows.push_back(row);
+  }
   return rows;
+}
+
+std::span<const Peer> ServiceView::peersOfClient(int unit) const {
+  if (!hasControlCircuits(unit)) return {};
+  return services.clients[static_cast<std::size_t>(unit)].peers;
+}
+
+std::span<const Peer> ServiceView::peersOfIp() const {
+  if (ipState() != ipOperational) return {};
+  return services.ip.peers;
+}
+
+void ServiceView::writePeerAddress(std::uint8_t* address, std::uint64_t esi) const {
+  std::memcpy(address, services.signalling.cfg.NetPrefix, networkPrefixBytes);
+  for (int i = 0; i < esiBytes; ++i)
+    address[networkPrefixBytes + i] = static_cast<std::uint8_t>(esi >> 8 * (esiBytes - 1 - i));
 }
 
 std::vector<std::uint16_t> ServiceView::circuits() const {
   std::vector<std::uint16_t> vcis;
   if (services.signalling.portEnabled) vcis = {saalVci, ilmiVci};
+  const auto addPeers = [&vcis](std::span<const Peer> peers) {
+    for (const Peer& peer : peers)
+      for (const std::uint16_t vci : peer.vcis)
+        if (vci != 0) vcis.push_back(vci);
+  };
   for (int unit = 0; unit < unitSlots; ++unit) {
-    for (const auto& pvc : services.clients[static_cast<std::size_t>(unit)].pvcs)
-      vcis.push_back(pvc.vcIndex);
+    const auto place = static_cast<std::size_t>(unit);
+    for (const auto& pvc : services.clients[place].pvcs) vcis.push_back(pvc.vcIndex);
+    addPeers(peersOfClient(unit));
+    if (serverState(unit) != serviceOff) addPeers(services.servers[place].peers);
     if (!hasControlCircuits(unit)) continue;
     for (int which = 0; which < controlCircuits; ++which) vcis.push_back(controlVci(unit, which));
   }
+  addPeers(peersOfIp());
   for (const ip_pvc& pvc : services.ip.pvcs) vcis.push_back(pvc.vcIndex);
   std::ranges::sort(vcis);
   vcis.erase(std::unique(vcis.begin(), vcis.end()), vcis.end());

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -29,24 +30,39 @@ enum ServiceState : std::uint32_t {
   lecOperational = 6,
 };
 
+// An end system that switching has connected to a service, by its MAC address (48 bits) or, for
+// IP, its IP address (32 bits). A server's client has two circuits: control direct and multicast
+// send.
+struct Peer {
+  std::uint64_t name = 0;
+  std::array<std::uint16_t, 2> vcis{};
+};
+
 struct LanClient {
   bool enabled = false;
   lecReqStruct record;
   Milliseconds since = 0;
   std::uint32_t enhanced = 0;
   std::vector<bdgPvcReqStruct> pvcs;
+  std::vector<Peer> peers = {};
+  std::optional<std::uint32_t> forcedState = {};
 };
 
 struct LanServer {
   bool enabled = false;
   lesReqStruct record;
+  std::vector<Peer> peers = {};
+  std::optional<std::uint32_t> forcedState = {};
 };
+
+constexpr std::size_t mostMappings = 65534;  // what a 16-bit row number reaches
 
 struct ConfigServer {
   bool enabled = false;
   bool going = false;
   lecs_req record;
   std::vector<lecs_tbl> clients;  // mappings, in the order in which they came
+  std::optional<std::uint32_t> forcedState = {};
 };
 
 struct IpService {
@@ -54,12 +70,15 @@ struct IpService {
   ip1577ReqStruct record;
   Milliseconds since = 0;
   std::vector<ip_pvc> pvcs;
+  std::vector<Peer> peers = {};
+  std::optional<std::uint32_t> forcedState = {};
 };
 
 struct Signalling {
   bool portEnabled = false;
   Milliseconds since = 0;
   sigPortCfg_s cfg;
+  std::array<std::optional<std::uint8_t>, 3> forcedLayers{};  // ILMI, QSAAL, signalling
 
   // One that is enabled already goes on as it is.
   void enablePort(bool enabled, Milliseconds now) {
@@ -95,8 +114,13 @@ struct ServiceView {
   lec_stats clientStats(int unit) const;
   les_stats serverStats(int unit) const;
   lecs_stats configServerStats() const;
-  // The board's own clients that a server's ELAN has.
+  // The clients that a server's ELAN has: the board's own, then the others.
   std::vector<les_tbl> joinedClients(int unit) const;
+  // The end systems that switching has connected to a client and to IP.
+  std::span<const Peer> peersOfClient(int unit) const;
+  std::span<const Peer> peersOfIp() const;
+  // The address of an end system on the board's network, by 48 bits of it.
+  void writePeerAddress(std::uint8_t* address, std::uint64_t esi) const;
 
   // The VCIs of all circuits, signalling's and the services', in rising order.
   std::vector<std::uint16_t> circuits() const;

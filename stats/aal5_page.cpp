@@ -1,7 +1,5 @@
 #include "stats/aal5_page.h"
 
-#include <numeric>
-
 #include "atm/devices.h"
 #include "driver/value_words.h"
 #include "foundation/odlog.h"
@@ -13,11 +11,6 @@
 namespace {
 
 constexpr std::uint32_t medium25 = 1;
-
-template <std::size_t count>
-std::uint32_t sumOf(const std::uint32_t (&words)[count]) {
-  return std::accumulate(words, words + count, 0U);
-}
 
 constexpr StatField<aal_stats> counterForms[] = {
     {.id = 214, .count = [](const aal_stats& s) { return s.rxPackets; }},

@@ -13,38 +13,13 @@ constexpr std::uint32_t stateOperational = 5;
 constexpr char ipSample[] = "000.000.000.000";
 constexpr char widestState[] = "Waiting for VCC connection";
 
-// The sum of the words of a record that start at these bytes.
-std::uint32_t sumAt(const ip_stats& stats, std::initializer_list<std::size_t> bytes) {
-  std::uint32_t sum = 0;
-  for (const std::size_t at : bytes) sum += stats.words[at / sizeof sum];
-  return sum;
-}
-
 constexpr StatField<ip_stats> counterForms[] = {
     {.id = 214,
-     .count =
-         [](const ip_stats& s) {
-           return sumAt(s, {80, 84, 124});
-         },
+     .count = [](const ip_stats& s) { return sumOf(s.received) + s.receivedOther; },
      .isSigned = true},
-    {.id = 216,
-     .count =
-         [](const ip_stats& s) {
-           return sumAt(s, {48, 52});
-         },
-     .isSigned = true},
-    {.id = 231,
-     .count =
-         [](const ip_stats& s) {
-           return sumAt(s, {88, 92, 96, 100, 104, 108, 112, 116, 120});
-         },
-     .isSigned = true},
-    {.id = 233,
-     .count =
-         [](const ip_stats& s) {
-           return sumAt(s, {68, 72, 76});
-         },
-     .isSigned = true},
+    {.id = 216, .count = [](const ip_stats& s) { return sumOf(s.transmitted); }, .isSigned = true},
+    {.id = 231, .count = [](const ip_stats& s) { return sumOf(s.rxDropped); }, .isSigned = true},
+    {.id = 233, .count = [](const ip_stats& s) { return sumOf(s.txDropped); }, .isSigned = true},
 };
 
 }  // namespace

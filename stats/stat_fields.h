@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <numeric>
 #include <span>
 #include <string>
 #include <vector>
@@ -16,6 +17,12 @@ struct StatField {
   std::uint32_t (*count)(const Record&) = nullptr;  // the driver's own, which wraps
   bool isSigned = false;                            // how a count reads
 };
+
+// A count that the driver keeps in several words.
+template <std::size_t count>
+std::uint32_t sumOf(const std::uint32_t (&words)[count]) {
+  return std::accumulate(words, words + count, 0U);
+}
 
 // The fields as they are shown. Writes nothing that a field shows already.
 class ShownFields {

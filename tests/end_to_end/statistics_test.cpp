@@ -111,14 +111,30 @@ TEST(Statistics, EachNotebookPollsItsPageBesideTheMainDialog) {
               UnorderedElementsAre("129/3/0", "129/4/0", "33/1/0", "1/4/0", "66/1/1", "129/16/0",
                                    "129/16/1", "129/16/2", "129/16/3", "129/16/4", "129/16/5"));
 
-  // Setup stops the main dialog's own timer and no other one.
-  applet.main.click(setupButton);
-  ASSERT_NE(applet.person.await(setupTitle2), None);
-  counts = requestsIn(host, 7);
-  EXPECT_THAT(kinds(counts),
-              UnorderedElementsAre("129/3/0", "129/4/0", "33/1/0", "1/4/0", "66/1/1"));
-  applet.person.key(XK_Escape);
-  EXPECT_TRUE(applet.person.awaitCount(setupTitle2, 0));
+  // Setup and Global stop the main dialog's own timer and no other one.
+  const std::pair<Spot, const char*> dialogs[] = {{setupButton, setupTitle2},
+                                                  {globalButton, "Global Settings"}};
+  for (const auto& [button, title] : dialogs) {
+    applet.main.click(button);
+    const Window dialog = applet.person.await(title);
+    ASSERT_TRUE(lisimWaitFor([&] { return applet.person.hasFocus(dialog); })) << title;
+    counts = requestsIn(host, 7);
+    EXPECT_THAT(kinds(counts),
+                UnorderedElementsAre("129/3/0", "129/4/0", "33/1/0", "1/4/0", "66/1/1"));
+    if (button.y == setupButton.y) {
+      applet.person.key(XK_Escape);
+    } else {
+      applet.person.key(XK_Home);  // the highest rate
+      applet.person.click(dialog, applet.person.size(dialog).width - 124,
+                          applet.person.size(dialog).height - 20);
+    }
+    EXPECT_TRUE(applet.person.awaitCount(title, 0)) << title;
+  }
+  EXPECT_NEAR(requestsIn(host, 3)["66/1/1"], 3, 1) << "a page that polls already keeps its rate";
+  third.turnTo(aal5Page);
+  third.turnTo(ipPage);
+  letFocusMove();
+  EXPECT_NEAR(requestsIn(host, 3)["66/1/1"], 12, 2);
 
   third.close();
   EXPECT_TRUE(applet.person.awaitCount(title2, 0));
