@@ -57,5 +57,5 @@ std::vector<std::uint32_t*> lesCounters(ServedRecords& records);
 std::vector<std::uint32_t*> lecsCounters(ServedRecords& records);
 std::vector<std::uint32_t*> ipCounters(ServedRecords& records);
 
-// The frames asked for so far, sent and answered on `socket` without anything else.
+// Exchanges these frames on `socket`, a session of the benchmark's own, and does nothing else.
 void exchangeBare(int socket, const std::vector<req_param_t>& frames);

@@ -162,7 +162,7 @@ void registerAll() {
   };
   for (const PageForm& form : pageForms) {
     const std::string name = form.name;
-    for (const std::size_t changes : {0, 1, 4, 16}) {
+    for (const std::size_t changes : {0UL, 1UL, 4UL, 16UL}) {
       if (changes > form.counters(*records).size()) continue;
       add(name + "/" + std::to_string(changes),
           [&form, changes](benchmark::State& state) { tick(state, form, changes); });

@@ -96,6 +96,7 @@ int main(int argc, char** argv) {
   startDriver(wanted);
   zDialogFrame root(nullptr, new zSizer(10, 600, 120, 40, nullptr), dialogStyle, "Bench", 0);
   std::vector<StatsPage*> pages;
+  pages.reserve(static_cast<std::size_t>(wanted.notebooks));
   for (int i = 0; i < wanted.notebooks; ++i) pages.push_back(&openNotebook(root, wanted.page));
   if (wanted.ticks > 0) {
     tickTimes(*pages.front(), wanted.ticks);

@@ -39,7 +39,6 @@ void ziTableImage::shift(const zRect& area, const zPoint& by) {
     invalidate(known.intersection(part).moved(by.x, by.y).intersection(part));
   }
   const zRect kept = part.intersection(part.moved(by.x, by.y));
-  image_->clearClip();
   image_->copy(image_->drawable(), kept.moved(-by.x, -by.y), kept.pos());
   invalidate({part.left, by.y < 0 ? kept.bottom : part.top, part.right,
               by.y < 0 ? part.bottom : kept.top});
@@ -54,6 +53,7 @@ void ziTableImage::bringUpToDate(zWindow* window, const zDimension& size,
     image_->lock();
     invalid_ = {all()};
   }
+  if (invalid_.empty()) return;
   for (const zRect& part : std::exchange(invalid_, {})) {
     image_->setClip(part);
     zDrawEvt event;
@@ -62,9 +62,9 @@ void ziTableImage::bringUpToDate(zWindow* window, const zDimension& size,
     event.window = window;
     draw(&event);
   }
+  image_->clearClip();  // copies are not cut
 }
 
 void ziTableImage::show(Window target, const zRect& part) const {
-  image_->clearClip();
   image_->copyTo(target, part);
 }
