@@ -39,6 +39,9 @@ constexpr CircuitForm circuitForms[LECPGLES_BUSTBL::rows] = {
     {&lec_stats::multicastForwardVci, &lec_stats::multicastForwardAddress},
 };
 
+// Pixels: so little that the rows of the upper table are seen together with large fonts, too.
+constexpr int rowPadding = 2;
+
 // Pixels, for the font that tables have now.
 int lesBusHeight() {
   const int size = tblFontSpec.pointSize();
@@ -55,7 +58,8 @@ LECPGLES_BUSTBL::LECPGLES_BUSTBL(zWindow* parent, int id, zTableModel* shown, sh
     : StatsTable(parent, id, shown, 557, 556),
       lecQuery_(makeQuery<lecInfo>(link)),
       vcInfo_(makeQuery<vccInfo>(link)) {
-  measureLabels("Multicast Send", 8);
+  measureLabels("Multicast Send", 4);
+  setRowHeight(1, rows, static_cast<unsigned>(getFont()->height() + rowPadding));
   measureColumns({circuitSample, countSample, countSample, prefixSample, esiSelectorSample});
 }
 
