@@ -248,8 +248,9 @@ std::vector<std::uint32_t*> ipCounters(ServedRecords& records) {
   std::vector<std::uint32_t*> counters;
   appendCounters(counters, records.ipConnections, records.ipConnections.count,
                  {&ip_tbl::txPackets, &ip_tbl::rxPackets});
-  // A word of each sum that a field shows.
-  for (const int word : {20, 12, 22, 17}) counters.push_back(&records.ip.words[word]);
+  ip_stats& ip = records.ip;
+  for (std::uint32_t* word : {ip.received, ip.transmitted, ip.rxDropped, ip.txDropped})
+    counters.push_back(word);  // one of each sum that a field shows
   return counters;
 }
 
