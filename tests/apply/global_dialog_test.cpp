@@ -169,7 +169,7 @@ TEST_F(GlobalDialog, WithoutADriverNothingIsSentAndAllIsKept) {
 
 TEST_F(GlobalDialog, TheFontFormSetsTheFontOfTables) {
   const zFontSpec before = tblFontSpec;
-  for (const KeySym answer : {XK_c, XK_o}) {
+  for (const KeySym answer : {KeySym{XK_c}, KeySym{XK_o}}) {
     open();
     const AnswersBox form(
         [&] {

@@ -79,6 +79,7 @@ std::map<std::string, int> requestsIn(const Host& host, double seconds) {
 
 std::vector<std::string> kinds(const std::map<std::string, int>& counts) {
   std::vector<std::string> kinds;
+  kinds.reserve(counts.size());
   for (const auto& [kind, count] : counts) kinds.push_back(kind);
   return kinds;
 }
