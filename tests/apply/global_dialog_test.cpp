@@ -180,7 +180,7 @@ TEST_F(GlobalDialog, TheFontFormSetsTheFontOfTables) {
         },
         "Select Font");
     clickIn(appPage, 267);
-    EXPECT_TRUE(form.answered());
+    EXPECT_TRUE(x_driver::waitUntil([&] { return form.answered(); }));
     EXPECT_EQ(tblFontSpec.isBold(), answer == XK_o);
     dialog_.reset();
   }

@@ -131,9 +131,10 @@ TEST(MainDialog, FollowsTheSelection) {
   EXPECT_TRUE(lisimWaitFor([&] { return main.face(statsButton) != enabled; }));
   main.click(statsButton);
   main.click(globalButton);
-  EXPECT_NE(person.await("Global Settings"), None);
-  EXPECT_TRUE(person.windows("Statistics").empty());
-  person.key(XK_space);
+  const Window global = person.await("Global Settings");
+  EXPECT_TRUE(lisimWaitFor([&] { return person.hasFocus(global); }));
+  EXPECT_TRUE(person.windows("Statistics Adapter 5 - -").empty());
+  person.key(XK_Escape);
   EXPECT_TRUE(run.logged("Starting main timer.", 2));
 
   main.clickRow(5);
