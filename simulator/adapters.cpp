@@ -98,7 +98,10 @@ void Adapters::startTraffic(Milliseconds at) {
     Board& one = board(index);
     const bool carries =
         one.role == Role::primary ? one.carrier == index : servedBy(index) != noBoard;
+    const ServiceView services = serviceView(one, at, joinStep);
     one.traffic.set(one.well() && carries, at);
+    one.lecsRequests.set(services.configServerServes(), at);
+    one.ipTraffic.set(services.ipCarries(), at);
   }
 }
 

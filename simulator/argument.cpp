@@ -150,6 +150,10 @@ bool readTime(std::string_view word, Value& value) {
   return good;
 }
 
+bool readPeriod(std::string_view word, Value& value) {
+  return readTime(word, value) && value.number > 0;
+}
+
 template <long long low, long long high>
 bool readRange(std::string_view word, Value& value) {
   return readNumber(word, low, high, value);
@@ -182,6 +186,7 @@ std::span<const ArgumentKind> argumentKinds() {
       {"count", readRange<1, 4294967295>, "a number from 1"},
       {"pattern", readPattern, "a number from 0 to 65535, or *"},
       {"time", readTime, "a time such as 250ms or 5s, of a week at most"},
+      {"period", readPeriod, "a time such as 250ms or 5s, above 0 and of a week at most"},
       {"errno", readError, listed(errors) + " or a number from 1 to 4095"},
       {"medium", readOneOf<mediums>, listed(mediums)},
       {"framing", readOneOf<framings>, listed(framings)},

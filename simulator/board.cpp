@@ -54,13 +54,21 @@ std::uint16_t ownVci(std::size_t row) {
                               : static_cast<std::uint16_t>(firstDataVci + (row - signallingRows));
 }
 
+const TrafficClock& Board::clockOf(CounterName name) const {
+  if (name < lecsValid) return traffic;
+  return name < ipIn ? lecsRequests : ipTraffic;
+}
+
+std::uint32_t Board::count(CounterName name, Milliseconds now, std::uint32_t seed) const {
+  return counters[name].value(clockOf(name).at(now), seed);
+}
+
 aal_stats aalStatsOf(const Board& board, Milliseconds now, std::uint32_t seed) {
-  const Milliseconds time = board.traffic.at(now);
   aal_stats stats{};
   for (const AalCounter& entry : aalCounters)
-    stats.*entry.word = board.counters[entry.counter].value(time, seed);
-  stats.rxCellErrors[0] = board.counters[cellErrors].value(time, seed);
-  stats.rxFrameErrors[0] = board.counters[frameErrors].value(time, seed);
+    stats.*entry.word = board.count(entry.counter, now, seed);
+  stats.rxCellErrors[0] = board.count(cellErrors, now, seed);
+  stats.rxFrameErrors[0] = board.count(frameErrors, now, seed);
   return stats;
 }
 
@@ -88,32 +96,28 @@ std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& service
 }
 
 vc_tbl vcRowOf(const Board& board, std::uint16_t vci, Milliseconds now, std::uint32_t seed) {
-  const Milliseconds time = board.traffic.at(now);
   const std::uint32_t offset = seed == 0 ? 0 : draw(seed, vci, vcIn) % rowSpread;
   vc_tbl entry{};
   entry.vci = static_cast<std::int16_t>(vci);
-  entry.counterIn = board.counters[vcIn].value(time, seed) + offset;
-  entry.counterOut = board.counters[vcOut].value(time, seed) + offset;
+  entry.counterIn = board.count(vcIn, now, seed) + offset;
+  entry.counterOut = board.count(vcOut, now, seed) + offset;
   return entry;
 }
 
 void countConfigServer(const Board& board, Milliseconds now, std::uint32_t seed,
                        lecs_stats& stats) {
   if (!board.services.configServer.enabled) return;
-  const Milliseconds time = board.traffic.at(now);
   for (const ConfigServerCounter& entry : configServerCounters)
-    stats.*entry.word = board.counters[entry.counter].value(time, seed);
+    stats.*entry.word = board.count(entry.counter, now, seed);
 }
 
 ip_stats ipStatsOf(const Board& board, Milliseconds now, std::uint32_t seed) {
   ip_stats stats{};
   if (!board.services.ip.enabled) return stats;
-  const Milliseconds time = board.traffic.at(now);
-  const auto count = [&](CounterName name) { return board.counters[name].value(time, seed); };
-  stats.received[0] = count(ipIn);
-  stats.transmitted[0] = count(ipOut);
-  stats.rxDropped[0] = count(ipDroppedIn);
-  stats.txDropped[0] = count(ipDroppedOut);
+  stats.received[0] = board.count(ipIn, now, seed);
+  stats.transmitted[0] = board.count(ipOut, now, seed);
+  stats.rxDropped[0] = board.count(ipDroppedIn, now, seed);
+  stats.txDropped[0] = board.count(ipDroppedOut, now, seed);
   return stats;
 }
 

@@ -80,7 +80,9 @@ struct Board {
 
   std::uint32_t vcRows = 0;  // of traffic of its own, 0 to maxVcRows
   std::array<Counter, counterNames> counters{};
-  TrafficClock traffic;
+  TrafficClock traffic;       // of the link it carries
+  TrafficClock lecsRequests;  // of the configuration server
+  TrafficClock ipTraffic;
   Services services;
 
   Milliseconds lineSince = 0;  // when it last became well or unwell
@@ -88,6 +90,10 @@ struct Board {
 
   // There, answering, and its line up.
   bool well() const { return presence == Presence::present && linkUp; }
+
+  // What a counter grows with, and where it stands.
+  const TrafficClock& clockOf(CounterName name) const;
+  std::uint32_t count(CounterName name, Milliseconds now, std::uint32_t seed) const;
 };
 
 // The answers to the queries of one board, as of `now`.

@@ -14,7 +14,9 @@ Answer addCircuit(Request& request, Service& service) {
   if (!service.enabled) return Answer::notRunning;
   if (pvc.vcIndex == 0 || pvc.vcIndex >= request.board().maxVc) return Answer::badVc;
   const auto vcis = vcisOf(request.board(), request.services());
-  if (std::ranges::find(vcis, pvc.vcIndex) != vcis.end()) return Answer::vcInUse;
+  if (std::ranges::find(vcis, pvc.vcIndex) != vcis.end() ||
+      isKeptForPeer(request.board().services, pvc.vcIndex))
+    return Answer::vcInUse;
   service.pvcs.push_back(pvc);
   return Answer::done;
 }

@@ -131,11 +131,12 @@ std::optional<Command> parseForm(std::string_view line, std::string& error) {
 }
 
 // Takes "WORD TIME" off the start of `rest`, if it starts with the word. 0 when it does not.
-Milliseconds takeTime(std::string_view& rest, std::string_view word, std::string& error) {
+Milliseconds takeTime(std::string_view& rest, std::string_view word, std::string_view kind,
+                      std::string& error) {
   if (!error.empty() || peekWord(rest) != word) return 0;
   nextWord(rest);
   Value time;
-  const std::string expected = readArgument("time", nextWord(rest), time);
+  const std::string expected = readArgument(kind, nextWord(rest), time);
   if (!expected.empty()) error = "expected " + expected + " behind '" + std::string(word) + "'";
   if (error.empty() && peekWord(rest).empty())
     error = "no command behind '" + std::string(word) + "'";
@@ -148,8 +149,8 @@ std::optional<Command> parseCommand(std::string_view line, std::string& error) {
   error.clear();
   std::string_view rest = trimmed(withoutComment(line));
   if (rest.empty()) return std::nullopt;
-  const Milliseconds delay = takeTime(rest, "at", error);
-  const Milliseconds period = takeTime(rest, "every", error);
+  const Milliseconds delay = takeTime(rest, "at", "time", error);
+  const Milliseconds period = takeTime(rest, "every", "period", error);
   if (!error.empty()) return std::nullopt;
   auto command = parseForm(rest, error);
   if (!command) return std::nullopt;

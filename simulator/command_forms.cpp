@@ -63,15 +63,16 @@ Reply setAlarm(Simulator& simulator, const Values& values, Milliseconds) {
 
 Reply setRate(Simulator& simulator, const Values& values, Milliseconds now) {
   Board& board = boardOf(simulator, values);
-  board.counters[static_cast<std::size_t>(values[1].number)].setRate(
-      word(values[2]), board.traffic.at(now), simulator.adapters.seed);
+  const auto name = static_cast<CounterName>(values[1].number);
+  board.counters[name].setRate(word(values[2]), board.clockOf(name).at(now),
+                               simulator.adapters.seed);
   return {};
 }
 
 Reply setCounter(Simulator& simulator, const Values& values, Milliseconds now) {
   Board& board = boardOf(simulator, values);
-  board.counters[static_cast<std::size_t>(values[1].number)].setValue(word(values[2]),
-                                                                      board.traffic.at(now));
+  const auto name = static_cast<CounterName>(values[1].number);
+  board.counters[name].setValue(word(values[2]), board.clockOf(name).at(now));
   return {};
 }
 
@@ -219,22 +220,27 @@ std::string serviceText(const char* name, int unit, std::uint32_t state, std::si
   return text + " state " + std::to_string(state) + " entries " + std::to_string(circuits) + "\n";
 }
 
-// A line for each service that runs.
+// A line for each service that runs, or is said to.
 std::string servicesText(const Board& board, const ServiceView& view) {
   const Services& services = board.services;
   std::string text;
   if (services.signalling.portEnabled)
     text += view.signallingUp() ? "  signalling up\n" : "  signalling coming up\n";
   for (int unit = 0; unit < unitSlots; ++unit) {
-    const auto place = static_cast<std::size_t>(unit);
-    text += serviceText("lec", unit, view.clientState(unit),
-                        view.peersOfClient(unit).size() + services.clients[place].pvcs.size());
+    const LanClient& client = services.clients[static_cast<std::size_t>(unit)];
+    text += serviceText("lec", unit, client.forcedState.value_or(view.clientState(unit)),
+                        view.peersOfClient(unit).size() + client.pvcs.size());
   }
-  for (int unit = 0; unit < unitSlots; ++unit)
-    text += serviceText("les", unit, view.serverState(unit), view.joinedClients(unit).size());
-  text += serviceText("lecs", -1, view.configServerState(), services.configServer.clients.size());
-  return text +
-         serviceText("ip", -1, view.ipState(), view.peersOfIp().size() + services.ip.pvcs.size());
+  for (int unit = 0; unit < unitSlots; ++unit) {
+    const LanServer& server = services.servers[static_cast<std::size_t>(unit)];
+    text += serviceText("les", unit, server.forcedState.value_or(view.serverState(unit)),
+                        view.joinedClients(unit).size());
+  }
+  const ConfigServer& config = services.configServer;
+  text += serviceText("lecs", -1, config.forcedState.value_or(view.configServerState()),
+                      config.clients.size());
+  return text + serviceText("ip", -1, services.ip.forcedState.value_or(view.ipState()),
+                            view.peersOfIp().size() + services.ip.pvcs.size());
 }
 
 Reply show(Simulator& simulator, const Values&, Milliseconds now) {

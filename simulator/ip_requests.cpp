@@ -36,7 +36,8 @@ Answer deletePvc(Request& request) {
 }
 
 Answer state(Request& request) {
-  request.reply(ip_state{request.services().ipState(), {}});
+  const std::uint32_t real = request.services().ipState();
+  request.reply(ip_state{ipOf(request).forcedState.value_or(real), {}});
   return Answer::done;
 }
 

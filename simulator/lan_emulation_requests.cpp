@@ -54,8 +54,9 @@ Answer setEnhanced(Request& request) {
 
 Answer clientState(Request& request) {
   lec_state state{};
-  state.state = request.services().clientState(request.head.Unit);
-  state.ready = state.state != serviceOff && request.services().signallingUp();
+  const std::uint32_t real = request.services().clientState(request.head.Unit);
+  state.state = clientOf(request).forcedState.value_or(real);
+  state.ready = real != serviceOff && request.services().signallingUp();
   request.reply(state);
   return Answer::done;
 }
@@ -110,8 +111,9 @@ Answer disableServer(Request& request) {
 
 Answer serverState(Request& request) {
   les_state state{};
-  state.state = request.services().serverState(request.head.Unit);
-  state.serving = state.state != serviceOff && request.services().signallingUp();
+  const std::uint32_t real = request.services().serverState(request.head.Unit);
+  state.state = serverOf(request).forcedState.value_or(real);
+  state.serving = real != serviceOff && request.services().signallingUp();
   request.reply(state);
   return Answer::done;
 }
@@ -198,7 +200,8 @@ Answer deleteMapping(Request& request) {
 }
 
 Answer configServerState(Request& request) {
-  request.reply(lecs_state{request.services().configServerState(), 0});
+  const std::uint32_t real = request.services().configServerState();
+  request.reply(lecs_state{configServerOf(request).forcedState.value_or(real), 0});
   return Answer::done;
 }
 

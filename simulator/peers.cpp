@@ -63,12 +63,16 @@ bool disconnectPeer(std::vector<Peer>& peers, std::uint64_t name) {
 
 bool setPeers(Board& board, std::vector<Peer>& peers, std::size_t count, std::uint64_t firstName,
               int circuits) {
-  if (count < peers.size()) peers.resize(count);
+  const std::size_t before = peers.size();
+  if (count < before) peers.resize(count);
   FreeVcis free(board);
   std::unordered_set<std::uint64_t> known;
   for (const Peer& peer : peers) known.insert(peer.name);
   for (std::uint64_t name = firstName; peers.size() < count; ++name) {
-    if (known.count(name) == 0 && !connect(free, peers, name, circuits)) return false;
+    if (known.count(name) == 0 && !connect(free, peers, name, circuits)) {
+      peers.resize(before);
+      return false;
+    }
   }
   return true;
 }

@@ -15,6 +15,7 @@ bool connectPeer(Board& board, std::vector<Peer>& peers, std::uint64_t name, int
 bool disconnectPeer(std::vector<Peer>& peers, std::uint64_t name);
 
 // Has exactly `count` of them: ends the latest ones, or connects others, named from `firstName` up.
+// False, and nothing done, when the VCIs do not suffice.
 bool setPeers(Board& board, std::vector<Peer>& peers, std::size_t count, std::uint64_t firstName,
               int circuits);
 

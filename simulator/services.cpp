@@ -48,6 +48,16 @@ void copyBytes(std::uint8_t (&to)[size], const std::uint8_t (&from)[size]) {
 
 }  // namespace
 
+bool isKeptForPeer(const Services& services, std::uint16_t vci) {
+  const auto has = [vci](const auto& service) {
+    return std::ranges::any_of(service.peers, [vci](const Peer& peer) {
+      return std::ranges::find(peer.vcis, vci) != peer.vcis.end();
+    });
+  };
+  return std::ranges::any_of(services.clients, has) || std::ranges::any_of(services.servers, has) ||
+         has(services.ip);
+}
+
 Milliseconds ServiceView::waited(Milliseconds since) const {
   return now - std::min(since, now);
 }
@@ -80,26 +90,30 @@ std::uint32_t ServiceView::joinState(bool enabled, bool pvcOnly, Milliseconds si
 
 std::uint32_t ServiceView::clientState(int unit) const {
   const LanClient& client = services.clients[static_cast<std::size_t>(unit)];
-  if (client.forcedState) return *client.forcedState;
   return joinState(client.enabled, client.record.config == 1, client.since, lecOperational);
 }
 
 std::uint32_t ServiceView::serverState(int unit) const {
-  const LanServer& server = services.servers[static_cast<std::size_t>(unit)];
-  return server.forcedState.value_or(server.enabled ? lesRunning : serviceOff);
+  return services.servers[static_cast<std::size_t>(unit)].enabled ? lesRunning : serviceOff;
 }
 
 std::uint32_t ServiceView::configServerState() const {
   const ConfigServer& server = services.configServer;
-  if (server.forcedState) return *server.forcedState;
   if (!server.enabled) return serviceOff;
   return server.going ? lecsOperational : serviceJoining;
 }
 
 std::uint32_t ServiceView::ipState() const {
   const IpService& ip = services.ip;
-  if (ip.forcedState) return *ip.forcedState;
   return joinState(ip.enabled, ip.record.config == 1, ip.since, ipOperational);
+}
+
+bool ServiceView::configServerServes() const {
+  return configServerState() == lecsOperational && signallingUp();
+}
+
+bool ServiceView::ipCarries() const {
+  return lineWell && ipState() == ipOperational;
 }
 
 // An address of this board: its network prefix, its MAC address `offset` further on, a selector.
@@ -177,7 +191,7 @@ lecs_stats ServiceView::configServerStats() const {
   stats.elanType = static_cast<std::uint8_t>(server.record.elanType);
   stats.etherMtuType = static_cast<std::uint8_t>(server.record.etherMfs);
   stats.tokenRingMtuType = static_cast<std::uint8_t>(server.record.tokenRingMfs);
-  stats.registered = server.going && signallingUp();
+  stats.registered = configServerServes();
   return stats;
 }
 
@@ -198,7 +212,7 @@ std::vector<les_tbl> ServiceView::joinedClients(int unit) const {
     row.multicastSendVci = controlVci(i, 2);
     rows.push_back(row);
   }
-  for (const Peer& peer : server.peers) {
+  for (const Peer& peer : peersOfServer(unit)) {
     les_tbl row{};
     writePeerAddress(row.address, peer.name);
     std::memcpy(row.macAddress, row.address + networkPrefixBytes, sizeof row.macAddress);
@@ -215,8 +229,13 @@ std::span<const Peer> ServiceView::peersOfClient(int unit) const {
   return services.clients[static_cast<std::size_t>(unit)].peers;
 }
 
+std::span<const Peer> ServiceView::peersOfServer(int unit) const {
+  if (!signallingUp()) return {};
+  return services.servers[static_cast<std::size_t>(unit)].peers;
+}
+
 std::span<const Peer> ServiceView::peersOfIp() const {
-  if (ipState() != ipOperational) return {};
+  if (ipState() != ipOperational || services.ip.record.config == 1) return {};
   return services.ip.peers;
 }
 
@@ -238,7 +257,7 @@ std::vector<std::uint16_t> ServiceView::circuits() const {
     const auto place = static_cast<std::size_t>(unit);
     for (const auto& pvc : services.clients[place].pvcs) vcis.push_back(pvc.vcIndex);
     addPeers(peersOfClient(unit));
-    if (serverState(unit) != serviceOff) addPeers(services.servers[place].peers);
+    addPeers(peersOfServer(unit));
     if (!hasControlCircuits(unit)) continue;
     for (int which = 0; which < controlCircuits; ++which) vcis.push_back(controlVci(unit, which));
   }

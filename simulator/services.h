@@ -95,6 +95,9 @@ struct Services {
   Signalling signalling;
 };
 
+// Whether a circuit to a peer has this VCI, also while its service does not work.
+bool isKeptForPeer(const Services& services, std::uint16_t vci);
+
 // A moment of a board's services.
 struct ServiceView {
   const Services& services;
@@ -109,6 +112,9 @@ struct ServiceView {
   std::uint32_t configServerState() const;
   std::uint32_t ipState() const;
   bool signallingUp() const;
+  // In full operation, so that their counters grow.
+  bool configServerServes() const;
+  bool ipCarries() const;
 
   sig_link_state linkState() const;
   lec_stats clientStats(int unit) const;
@@ -116,8 +122,9 @@ struct ServiceView {
   lecs_stats configServerStats() const;
   // The clients that a server's ELAN has: the board's own, then the others.
   std::vector<les_tbl> joinedClients(int unit) const;
-  // The end systems that switching has connected to a client and to IP.
+  // The end systems that switching has connected to a client, a server and IP, while those work.
   std::span<const Peer> peersOfClient(int unit) const;
+  std::span<const Peer> peersOfServer(int unit) const;
   std::span<const Peer> peersOfIp() const;
   // The address of an end system on the board's network, by 48 bits of it.
   void writePeerAddress(std::uint8_t* address, std::uint64_t esi) const;

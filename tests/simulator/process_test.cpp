@@ -172,6 +172,7 @@ TEST(Process, CommandsAreDoneAgainAndAgain) {
   for (int i = 0; i < 3; ++i)
     EXPECT_THAT(lisim.run().line(), testing::EndsWith("the board has no link to switch"));
   EXPECT_THAT(lisim.command("every"), StartsWith("error: expected a time"));
+  EXPECT_THAT(lisim.command("every 0 show"), StartsWith("error: expected a time"));
   EXPECT_THAT(lisim.command("at 1s every 1s"), StartsWith("error: no command behind 'every'"));
 }
 

@@ -8,6 +8,7 @@
 #include "driver/control_table.h"
 #include "driver/query_table.h"
 #include "simulator/answer_code.h"
+#include "simulator/command.h"
 #include "simulator/services.h"
 #include "tests/support/lisim_client.h"
 
@@ -233,6 +234,26 @@ TEST_F(Services, PeersComeAndGoAndLeaveTheirCircuitsToOthers) {
   EXPECT_EQ(count(Query::LecTable), 0);
 }
 
+TEST_F(Services, PeersWaitForTheirService) {
+  for (const char* line : {"lec 0 on", "les 2 on", "ip on", "lec 0 connections 2", "les 2 joined 2",
+                           "ip connections 2", "link down"})
+    EXPECT_EQ(lisim.command(std::string("board 1 ") + line), "ok\n");
+  EXPECT_EQ(count(Query::LecTable) + count(Query::LesTable, 2) + count(Query::IpTable), 0);
+  EXPECT_EQ(vcis(), (std::vector{5, 16}));
+  EXPECT_EQ(control(Control::LecAddPvc, 0, bridged(513)), Answer::vcInUse) << "kept";
+  EXPECT_EQ(lisim.command("board 1 les 2 joined 65000"), "error: the table is full\n");
+  lisim.command("board 1 link up");
+  EXPECT_EQ(count(Query::LesTable, 2), 3) << "as before, with the board's own client";
+  for (const int forced : {1, 6}) {
+    for (const int unit : {0, 4})
+      lisim.command("board 1 lec " + std::to_string(unit) + " state " + std::to_string(forced));
+    EXPECT_EQ(state(Query::LecState, 4), static_cast<std::uint32_t>(forced));
+    EXPECT_EQ(count(Query::LecTable), 2) << "whatever is reported";
+    EXPECT_EQ(ask(Query::LecState, 4).as<lec_state>().ready, 0U);
+    EXPECT_EQ(count(Query::VcTable), 2 + 4 + 2 + 4 + 2);
+  }
+}
+
 TEST_F(Services, CountersAndStatesAreAsCommanded) {
   const auto command = [&](const std::string& line) { return lisim.command("board 1 " + line); };
   for (const char* line : {"counter lecs-rejected 3", "counter lecs-open 5", "counter ip-in 7",
@@ -303,6 +324,35 @@ TEST_F(Services, OutliveAnyRecord) {
     if (round % 40 != 0) continue;
     for (const QueryForm& query : queryForms)
       ASSERT_EQ(client.query(query.prim, query.type, roll(2), 300).wire.code, 0U);
+  }
+}
+
+// The clock is the test's.
+TEST(ServiceCounters, RestWhileTheServiceDoes) {
+  lisim::Simulator host;
+  host.adapters.populate(2);
+  host.adapters.joinStep = 0;
+  const auto run = [&](lisim::Milliseconds now, const std::string& line) {
+    std::string error;
+    const auto command = lisim::parseCommand(line, error);
+    EXPECT_EQ(command ? lisim::runCommand(host, *command, now).error : error, "");
+  };
+  for (const char* counter : {"lecs-valid", "ip-dropped-out"})
+    run(0, std::string("board 1 rate ") + counter + " 10");
+  struct Moment {
+    const char* command;  // at its start; a second later the counts are these
+    std::uint32_t lecs, ip;
+  };
+  const Moment moments[] = {{"board 1 signalling up", 0, 0}, {"board 1 lecs on", 10, 0},
+                            {"board 1 ip on", 20, 10},       {"board 1 link down", 20, 10},
+                            {"board 1 link up", 30, 20},     {"board 1 lecs off", 30, 30},
+                            {"board 1 ip off", 30, 30}};
+  lisim::Milliseconds now = 0;
+  for (const Moment& moment : moments) {
+    run(now, moment.command);
+    host.adapters.advance(now += 1000);
+    EXPECT_EQ(host.adapters.board(0).count(lisim::lecsValid, now, 0), moment.lecs) << now;
+    EXPECT_EQ(host.adapters.board(0).count(lisim::ipDroppedOut, now, 0), moment.ip) << now;
   }
 }
 
