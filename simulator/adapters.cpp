@@ -80,15 +80,22 @@ void Adapters::settle(Milliseconds at) {
     for (int index = 0; index < boardSlots; ++index) moved |= settlePrimary(index, at);
     if (!moved) break;
   }
-  noteLines(at);
+  noteLinks(at);
   startTraffic(at);
 }
 
-void Adapters::noteLines(Milliseconds at) {
+bool Adapters::carriesLink(int index) const {
+  const Board& one = board(index);
+  return one.role == Role::primary ? one.carrier == index : servedBy(index) != noBoard;
+}
+
+// What runs on a primary's link goes on while the backup carries it.
+void Adapters::noteLinks(Milliseconds at) {
   for (Board& one : boards_) {
-    if (one.well() == one.wasWell) continue;
-    one.wasWell = one.well();
-    one.lineSince = at;
+    const bool well = one.role == Role::primary ? board(one.carrier).well() : one.well();
+    if (well == one.linkWell) continue;
+    one.linkWell = well;
+    one.linkSince = at;
   }
 }
 
@@ -96,10 +103,9 @@ void Adapters::noteLines(Milliseconds at) {
 void Adapters::startTraffic(Milliseconds at) {
   for (int index = 0; index < boardSlots; ++index) {
     Board& one = board(index);
-    const bool carries =
-        one.role == Role::primary ? one.carrier == index : servedBy(index) != noBoard;
     const ServiceView services = serviceView(one, at, joinStep);
-    one.traffic.set(one.well() && carries, at);
+    one.traffic.set(one.well() && carriesLink(index), at);
+    one.circuitTraffic.set(one.linkWell && (one.role == Role::primary || carriesLink(index)), at);
     one.lecsRequests.set(services.configServerServes(), at);
     one.ipTraffic.set(services.ipCarries(), at);
   }

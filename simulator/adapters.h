@@ -61,7 +61,8 @@ class Adapters {
   int servedBy(int backup) const;
   bool settlePrimary(int index, Milliseconds at);
   void settle(Milliseconds at);
-  void noteLines(Milliseconds at);
+  bool carriesLink(int index) const;
+  void noteLinks(Milliseconds at);
   void startTraffic(Milliseconds at);
   void leavePair(int index);
   Board* firstReturn(Milliseconds until);

@@ -55,7 +55,8 @@ std::uint16_t ownVci(std::size_t row) {
 }
 
 const TrafficClock& Board::clockOf(CounterName name) const {
-  if (name < lecsValid) return traffic;
+  if (name < vcIn) return traffic;
+  if (name < lecsValid) return circuitTraffic;
   return name < ipIn ? lecsRequests : ipTraffic;
 }
 
@@ -84,7 +85,7 @@ suni_stats suniStatsOf(const Board& board) {
 }
 
 ServiceView serviceView(const Board& board, Milliseconds now, Milliseconds step) {
-  return {board.services, board.mac, board.well(), board.lineSince, now, step};
+  return {board.services, board.mac, board.linkWell, board.linkSince, now, step};
 }
 
 std::vector<std::uint16_t> vcisOf(const Board& board, const ServiceView& services) {

@@ -80,13 +80,14 @@ struct Board {
 
   std::uint32_t vcRows = 0;  // of traffic of its own, 0 to maxVcRows
   std::array<Counter, counterNames> counters{};
-  TrafficClock traffic;       // of the link it carries
-  TrafficClock lecsRequests;  // of the configuration server
+  TrafficClock traffic;         // of the link it carries
+  TrafficClock circuitTraffic;  // of its own link, whoever carries it
+  TrafficClock lecsRequests;    // of the configuration server
   TrafficClock ipTraffic;
   Services services;
 
-  Milliseconds lineSince = 0;  // when it last became well or unwell
-  bool wasWell = false;        // then
+  bool linkWell = false;       // a board that is well carries its link, or is its backup
+  Milliseconds linkSince = 0;  // when that last changed
 
   // There, answering, and its line up.
   bool well() const { return presence == Presence::present && linkUp; }

@@ -63,11 +63,11 @@ Milliseconds ServiceView::waited(Milliseconds since) const {
 }
 
 Milliseconds ServiceView::signallingStart() const {
-  return std::max(services.signalling.since, lineSince);
+  return std::max(services.signalling.since, linkSince);
 }
 
 std::uint32_t ServiceView::signallingSteps() const {
-  if (!lineWell || !services.signalling.portEnabled) return 0;
+  if (!linkWell || !services.signalling.portEnabled) return 0;
   const Milliseconds passed = waited(signallingStart());
   return step == 0 ? sigSteps
                    : static_cast<std::uint32_t>(std::min<Milliseconds>(passed / step, sigSteps));
@@ -113,7 +113,7 @@ bool ServiceView::configServerServes() const {
 }
 
 bool ServiceView::ipCarries() const {
-  return lineWell && ipState() == ipOperational;
+  return linkWell && ipState() == ipOperational;
 }
 
 // An address of this board: its network prefix, its MAC address `offset` further on, a selector.

@@ -1,7 +1,7 @@
 // The services of a board, as requests have set them up, and what time makes of them.
 //
-// Signalling comes up layer by layer once its port is enabled and the line is well, a step a layer,
-// and anew when the line has been down. Clients that want an ELAN or an ARP server wait for it and
+// Signalling comes up layer by layer once its port is enabled and the link is well, a step a layer,
+// and anew when it has been down. Clients that want an ELAN or an ARP server wait for it and
 // then join step by step; those with permanent circuits alone work at once. A service that is
 // stopped forgets its circuits and clients.
 #pragma once
@@ -102,8 +102,8 @@ bool isKeptForPeer(const Services& services, std::uint16_t vci);
 struct ServiceView {
   const Services& services;
   std::span<const std::uint8_t> mac;  // the board's, 6 bytes
-  bool lineWell;
-  Milliseconds lineSince;  // when that began
+  bool linkWell;
+  Milliseconds linkSince;  // when that began
   Milliseconds now;
   Milliseconds step;  // between two states on the way up
 

@@ -337,22 +337,28 @@ TEST(ServiceCounters, RestWhileTheServiceDoes) {
     const auto command = lisim::parseCommand(line, error);
     EXPECT_EQ(command ? lisim::runCommand(host, *command, now).error : error, "");
   };
-  for (const char* counter : {"lecs-valid", "ip-dropped-out"})
+  for (const char* counter : {"lecs-valid", "ip-dropped-out", "vc-in"})
     run(0, std::string("board 1 rate ") + counter + " 10");
   struct Moment {
     const char* command;  // at its start; a second later the counts are these
-    std::uint32_t lecs, ip;
+    std::uint32_t lecs, ip, circuits;
   };
-  const Moment moments[] = {{"board 1 signalling up", 0, 0}, {"board 1 lecs on", 10, 0},
-                            {"board 1 ip on", 20, 10},       {"board 1 link down", 20, 10},
-                            {"board 1 link up", 30, 20},     {"board 1 lecs off", 30, 30},
-                            {"board 1 ip off", 30, 30}};
+  const Moment moments[] = {{"board 1 signalling up", 0, 0, 10},
+                            {"board 1 lecs on", 10, 0, 20},
+                            {"board 1 ip on", 20, 10, 30},
+                            {"board 1 link down", 20, 10, 30},
+                            {"pair 1 2", 30, 20, 40},  // and the backup carries the link at once
+                            {"board 2 link down", 30, 20, 40},
+                            {"board 2 link up", 40, 30, 50},
+                            {"board 1 lecs off", 40, 40, 60},
+                            {"board 1 ip off", 40, 40, 70}};
   lisim::Milliseconds now = 0;
   for (const Moment& moment : moments) {
     run(now, moment.command);
     host.adapters.advance(now += 1000);
     EXPECT_EQ(host.adapters.board(0).count(lisim::lecsValid, now, 0), moment.lecs) << now;
     EXPECT_EQ(host.adapters.board(0).count(lisim::ipDroppedOut, now, 0), moment.ip) << now;
+    EXPECT_EQ(host.adapters.board(0).count(lisim::vcIn, now, 0), moment.circuits) << now;
   }
 }
 
