@@ -30,6 +30,8 @@ constexpr Choice onOff[] = {{"off", 0}, {"on", 1}};
 constexpr Choice upDown[] = {{"down", 0}, {"up", 1}};
 constexpr Choice framings[] = {{"sonet", 0}, {"sdh", 1}};
 constexpr Choice modes[] = {{"manual", 0}, {"auto", 1}};
+constexpr Choice elanTypes[] = {{"ethernet", 0}, {"token-ring", 1}};
+constexpr Choice frameSizes[] = {{"1516", 1}, {"4544", 2}, {"9234", 3}, {"18190", 4}};
 constexpr Choice errors[] = {{"EPERM", EPERM},   {"ENOENT", ENOENT}, {"EINTR", EINTR},
                              {"EIO", EIO},       {"ENXIO", ENXIO},   {"EAGAIN", EAGAIN},
                              {"ENOMEM", ENOMEM}, {"EACCES", EACCES}, {"EBUSY", EBUSY},
@@ -150,6 +152,12 @@ bool readTime(std::string_view word, Value& value) {
   return good;
 }
 
+// The text itself is what counts.
+bool readPrefix(std::string_view word, Value&) {
+  return word.size() == 2U * networkPrefixBytes &&
+         word.find_first_not_of("0123456789ABCDEFabcdef") == word.npos;
+}
+
 bool readPeriod(std::string_view word, Value& value) {
   return readTime(word, value) && value.number > 0;
 }
@@ -186,6 +194,9 @@ std::span<const ArgumentKind> argumentKinds() {
       {"count", readRange<1, 4294967295>, "a number from 1"},
       {"pattern", readPattern, "a number from 0 to 65535, or *"},
       {"time", readTime, "a time such as 250ms or 5s, of a week at most"},
+      {"elan-type", readOneOf<elanTypes>, listed(elanTypes)},
+      {"frame-size", readOneOf<frameSizes>, listed(frameSizes)},
+      {"prefix", readPrefix, "a network prefix of 26 hexadecimal digits"},
       {"period", readPeriod, "a time such as 250ms or 5s, above 0 and of a week at most"},
       {"errno", readError, listed(errors) + " or a number from 1 to 4095"},
       {"medium", readOneOf<mediums>, listed(mediums)},

@@ -1,7 +1,7 @@
 // The commands about a board's services: what the applet would start, who connects to it, and
 // states that are reported whatever is the case.
 #include <algorithm>
-#include <cstring>
+#include <charconv>
 
 #include "driver/frame.h"
 #include "simulator/answer_code.h"
@@ -62,31 +62,40 @@ Reply outcome(bool done, Answer otherwise) {
   return {"", done ? "" : wordsOf(static_cast<std::uint16_t>(otherwise))};
 }
 
+Reply setPrefix(Simulator& simulator, const Values& values, Milliseconds) {
+  const char* digits = values[1].text.c_str();
+  for (std::uint8_t& byte : boardOf(simulator, values).services.signalling.cfg.NetPrefix) {
+    std::from_chars(digits, digits + 2, byte, 16);
+    digits += 2;
+  }
+  return {};
+}
+
 // Starting and stopping, with what most ELANs are like.
 
-void nameElan(char (&name)[elanNameBytes], const Value& given) {
-  std::memset(name, 0, sizeof name);
-  const std::string text = given.given ? given.text : "elan1";
-  text.copy(name, sizeof name);
+// Arguments: board, unit, ELAN type, frame size, ELAN name.
+template <class Record>
+void describeElan(Record& record, const Values& values, std::uint32_t ethernet) {
+  const std::string name = values[4].given ? values[4].text : "elan1";
+  name.copy(record.elanName, sizeof record.elanName);
+  record.elanType = ethernet + static_cast<std::uint32_t>(values[2].number);
+  record.mfs = values[3].given ? static_cast<std::uint32_t>(values[3].number) : 1;
 }
 
 Reply startClient(Simulator& simulator, const Values& values, Milliseconds now) {
   LanClient& client = serviceOf<Client>(simulator, values);
   client = LanClient{true, {}, now, 0, {}};
   client.record.lecs = 1;
-  client.record.mfs = 1;
   client.record.address[0] = 0x47;
   std::ranges::copy(boardOf(simulator, values).mac, client.record.address + networkPrefixBytes);
-  nameElan(client.record.elanName, values[2]);
+  describeElan(client.record, values, 0);
   return {};
 }
 
 Reply startServer(Simulator& simulator, const Values& values, Milliseconds) {
   LanServer& server = serviceOf<Server>(simulator, values);
   server = LanServer{true, {}};
-  server.record.mfs = 1;
-  server.record.elanType = 1;
-  nameElan(server.record.elanName, values[2]);
+  describeElan(server.record, values, 1);
   return {};
 }
 
@@ -171,14 +180,17 @@ Reply freeLayer(Simulator& simulator, const Values& values, Milliseconds) {
 }
 
 constexpr CommandForm forms[] = {
-    {"board {board} lec {unit} on [elan {text}]", startClient},
+    {"board {board} prefix {prefix}", setPrefix},
+    {"board {board} lec {unit} on [type {elan-type}] [mtu {frame-size}] [elan {text}]",
+     startClient},
     {"board {board} lec {unit} off", stop<Client>},
     {"board {board} lec {unit} connect {mac}", join<Client>},
     {"board {board} lec {unit} disconnect {mac}", leave<Client>},
     {"board {board} lec {unit} connections {rows}", setCount<Client>},
     {"board {board} lec {unit} state auto", freeState<Client>},
     {"board {board} lec {unit} state {word}", forceState<Client>},
-    {"board {board} les {unit} on [elan {text}]", startServer},
+    {"board {board} les {unit} on [type {elan-type}] [mtu {frame-size}] [elan {text}]",
+     startServer},
     {"board {board} les {unit} off", stop<Server>},
     {"board {board} les {unit} join {mac}", join<Server>},
     {"board {board} les {unit} leave {mac}", leave<Server>},

@@ -202,9 +202,10 @@ TEST_F(Services, IpServiceAndItsCircuits) {
 TEST_F(Services, PeersComeAndGoAndLeaveTheirCircuitsToOthers) {
   const auto command = [&](const std::string& line) { return lisim.command("board 1 " + line); };
   EXPECT_EQ(command("lec 0 connect 02:00:00:00:00:01"), "error: the service does not run\n");
-  for (const char* line : {"lec 0 on", "lec 0 connect 02:00:00:00:00:01",
-                           "lec 0 connect 02:00:00:00:00:02", "les 2 on elan plant floor",
-                           "les 2 join 02:00:00:00:00:03", "ip on", "ip connect 10.0.0.7"})
+  for (const char* line :
+       {"lec 0 on", "lec 0 connect 02:00:00:00:00:01", "lec 0 connect 02:00:00:00:00:02",
+        "prefix 47000580ffE1000000f21a26d8", "les 2 on type token-ring mtu 9234 elan plant floor",
+        "les 2 join 02:00:00:00:00:03", "ip on", "ip connect 10.0.0.7"})
     EXPECT_EQ(command(line), "ok\n") << line;
   EXPECT_EQ(vcis(), (std::vector{5, 16, 256, 257, 258, 259, 512, 513, 514, 515, 516}));
   const auto second = ask(Query::LecTable, 0, 2).as<lec_tbl_t>(sizeof(lec_tbl_t));
@@ -213,7 +214,10 @@ TEST_F(Services, PeersComeAndGoAndLeaveTheirCircuitsToOthers) {
   EXPECT_EQ(second.connectionKind, 1);
   EXPECT_EQ(second.vci, 513);
   EXPECT_STREQ(ask(Query::LesStats, 2).as<les_stats>().elanName, "plant floor");
+  EXPECT_EQ(ask(Query::LesStats, 2).as<les_stats>().elanType, 2);
+  EXPECT_EQ(ask(Query::LesStats, 2).as<les_stats>().mtuType, 3);
   const auto joined = ask(Query::LesTable, 2, 1).as<les_tbl>();
+  EXPECT_EQ(joined.address[5], 0xE1);
   EXPECT_EQ(joined.macAddress[5], 3);
   EXPECT_EQ(joined.controlDirectVci, 514);
   EXPECT_EQ(joined.multicastSendVci, 515);
