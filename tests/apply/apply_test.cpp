@@ -210,6 +210,7 @@ TEST(Apply, RedundancyChangesAskForAReboot) {
   }
   BoxReader reader;
   stage.main->clickedCloseBTN(nullptr);
+  zAppKeepRunning = 1;  // for what comes after this test
   EXPECT_EQ(reader.boxes(), Lines{"Redundancy Configuration Change: ATM Redundancy parameters "
                                   "changed!\nYou will need to reboot your system."});
 }
