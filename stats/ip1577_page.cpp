@@ -11,7 +11,7 @@ constexpr std::uint32_t stateOff = 0;
 constexpr std::uint32_t stateOperational = 5;
 
 constexpr char ipSample[] = "000.000.000.000";
-constexpr char widestState[] = "Waiting for VCC connection";
+constexpr char widestState[] = "Waiting for InARP response";
 
 constexpr StatField<ip_stats> counterForms[] = {
     {.id = 214,
@@ -35,16 +35,9 @@ IP1577PGConnectionTBL::IP1577PGConnectionTBL(zWindow* parent, int id, zTableMode
 }
 
 short IP1577PGConnectionTBL::UpdateDisplay(short link, short unit, bool clear) {
-  if (!ipQuery_) return 0;
-  const ip_tbl* connections = ipQuery_->GetEntireTable(queryByte(link), queryByte(unit));
-  if (!connections) return 0;
-  const unsigned long count = ipQuery_->header().NRow;
-  setRowCount(count);
-  for (unsigned long row = 1; row <= count; ++row) {
-    writeRow(row, link, connections[row - 1], clear);
-  }
-  model()->updateAllViews();
-  return 1;
+  return showTable(ipQuery_.get(), link, unit, [&](unsigned long row, const ip_tbl& connection) {
+    writeRow(row, link, connection, clear);
+  });
 }
 
 void IP1577PGConnectionTBL::writeRow(unsigned long row, short link, const ip_tbl& connection,

@@ -114,16 +114,9 @@ LECPGLECTBL::LECPGLECTBL(zWindow* parent, int id, zTableModel* shown, short link
 }
 
 short LECPGLECTBL::UpdateDisplay(short link, short lec, bool clear) {
-  if (!lecQuery_) return 0;
-  const lec_tbl_t* connections = lecQuery_->GetEntireTable(queryByte(link), queryByte(lec));
-  if (!connections) return 0;
-  const unsigned long count = lecQuery_->header().NRow;
-  setRowCount(count);
-  for (unsigned long row = 1; row <= count; ++row) {
-    writeRow(row, link, connections[row - 1], clear);
-  }
-  model()->updateAllViews();
-  return 1;
+  return showTable(lecQuery_.get(), link, lec, [&](unsigned long row, const lec_tbl_t& connection) {
+    writeRow(row, link, connection, clear);
+  });
 }
 
 void LECPGLECTBL::writeRow(unsigned long row, short link, const lec_tbl_t& connection, bool clear) {

@@ -46,14 +46,9 @@ LESPGClientTBL::LESPGClientTBL(zWindow* parent, int id, zTableModel* shown, shor
 }
 
 short LESPGClientTBL::UpdateDisplay(short link, short les, bool clear) {
-  if (!lesQuery_) return 0;
-  const les_tbl* clients = lesQuery_->GetEntireTable(queryByte(link), queryByte(les));
-  if (!clients) return 0;
-  const unsigned long count = lesQuery_->header().NRow;
-  setRowCount(count);
-  for (unsigned long row = 1; row <= count; ++row) writeRow(row, link, clients[row - 1], clear);
-  model()->updateAllViews();
-  return 1;
+  return showTable(lesQuery_.get(), link, les, [&](unsigned long row, const les_tbl& client) {
+    writeRow(row, link, client, clear);
+  });
 }
 
 void LESPGClientTBL::writeRow(unsigned long row, short link, const les_tbl& client, bool clear) {

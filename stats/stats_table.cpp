@@ -54,8 +54,6 @@ void StatsTable::empty() {
 void StatsTable::setRowCount(unsigned long rows) {
   if (model()->getNumRows() == rows) return;
   model()->setDimension(model()->getNumCols(), rows);
-  if (rows <= labelledRows_) return;
-  labelledRows_ = rows;
   const int width = labelFont().textWidth(std::to_string(rows)) + labelPadding_;
   if (width <= labelSize_.width) return;
   labelSize_.width = width;

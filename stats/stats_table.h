@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "applet/my_table.h"
+#include "stats/timer_page.h"
 
 class StatsTable : public myTable {
  public:
@@ -24,6 +25,18 @@ class StatsTable : public myTable {
   void measureColumns(std::initializer_list<const char*> samples);
 
   void setRowCount(unsigned long rows);
+  // Has a row for each of the query's table, as `writeRow(row, record)` writes it. Returns 0 if
+  // nothing was read; the query may be null.
+  template <class Info, class WriteRow>
+  short showTable(Info* query, short link, short unit, WriteRow writeRow) {
+    const auto* records = query ? query->GetEntireTable(queryByte(link), queryByte(unit)) : nullptr;
+    if (!records) return 0;
+    const unsigned long count = query->header().NRow;
+    setRowCount(count);
+    for (unsigned long row = 1; row <= count; ++row) writeRow(row, records[row - 1]);
+    model()->updateAllViews();
+    return 1;
+  }
   void writeCount(unsigned long column, unsigned long row, std::uint32_t count);
   void writeCircuit(unsigned long column, unsigned long row, short link, std::uint16_t vci);
   // An ATM address in two columns, from `column` on.
@@ -35,7 +48,6 @@ class StatsTable : public myTable {
  private:
   int labelPadding_ = 0;
   zDimension labelSize_;
-  unsigned long labelledRows_ = 99;  // what the row labels have room for
 };
 
 // Samples for columns.
