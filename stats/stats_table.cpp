@@ -15,10 +15,14 @@ constexpr std::uint16_t switchedConnection = 1;
 constexpr char noPrefix[] = "   PVC Connection                     ";
 constexpr char noEsiSelector[] = "   PVC Connection   ";
 
+// The rows behind those that all tables align; as many as the driver can number.
+const zTableRegion furtherRows({1, 101}, {100, 65535});
+
 }  // namespace
 
 StatsTable::StatsTable(zWindow* parent, int id, zTableModel* shown, int columnLabels, int rowLabels)
     : myTable(parent, id, shown) {
+  shown->addAttr(std::make_unique<zTableTextAlignmentAttr>(zAlignCenterAcross, furtherRows));
   setLabelType(zTLabelColumns, zTLabelText);
   setLabelText(zTLabelColumns, zResStrBlock(columnLabels));
   if (rowLabels != numberedRows) {

@@ -212,6 +212,9 @@ TEST_F(StatsStage, NineHundredRowsAreShownWithTheirNumbers) {
   EXPECT_EQ(table.model()->getCell({3, 900})->getText(), "899");
   EXPECT_GE(table.sizer()->width() - table.roomForCells().width, table.labelFont().textWidth("900"))
       << "the row labels have room for their numbers";
+  EXPECT_TRUE(std::ranges::any_of(table.model()->attributes(), [](const auto& attr) {
+    return dynamic_cast<zTableTextAlignmentAttr*>(attr.get()) && attr->region().contains({3, 900});
+  })) << "the last row is centred as the first one is";
   driver.serve(Query::LecState, lec_state{0, {}, 0});
   lec.Update();
   EXPECT_EQ(table.model()->getNumRows(), 0U);
